@@ -1,0 +1,26 @@
+#pragma once
+// The sixteen run parameters, with their defaults. Read once at the start of a run (driver);
+// every subsystem reads them from here.
+
+namespace tarvo {
+
+struct RunParams {
+  int istrat = 3;
+  int nsamples = 100;
+  int nzrows = 100;
+  int maxit = 1000;
+  int iwrite = 0;
+  int ibug = 0;
+  int iscratch = 17;
+  int iresamp = 1;
+  int igms = 0;
+  int ireg = 0;
+  double rho = 1000.0;
+  double tolben = 1.0e-7;
+  double tolw = 1.0e-9;
+  int iappr = 1;
+  double maxtime = 345600.0;
+  int iseed = 12933428;
+};
+
+}  // namespace tarvo

@@ -1,0 +1,47 @@
+#pragma once
+// The optimizer interface the rest of TARVO uses: initialization from SIMPLEX.SPC, the three
+// problem slots, the active slot, linear or quadratic objective, and solve requests.
+#include <array>
+#include <vector>
+
+#include "common/units.h"
+#include "lp/options.h"
+#include "lp/problem_slot.h"
+#include "lp/simplex.h"
+
+namespace tarvo::lp {
+
+inline constexpr int kSpecsUnit = 4;
+inline constexpr int kPrintUnit = 23;
+
+struct Optimizer {
+  Options options;
+  std::array<ProblemSlot, 4> slot;     // [1..3]
+  std::array<SimplexState, 4> solver;  // [1..3]
+  int active = 0;
+  int mmax = 0;
+  int nmax = 0;
+  int nbmax = 0;
+  int nemax = 0;
+  int nwcore = 0;
+  // Problem, objective, right-hand side, ranges and bounds names, shared by all slots.
+  std::array<Name8, 5> names;
+  Regularization regularization;
+};
+
+// Returns 0 on success, 13 on failure.
+int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug);
+void select_problem(Optimizer& opt, int slot);
+ProblemSlot& active_slot(Optimizer& opt);
+void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_unit);
+// Solves the active slot; start 0 cold, 1 warm, any other value hot. duals: pi(1..m) then
+// rc(1..n); primal: xn(1..n+m); both 1-based, sized by the caller. Returns 0; the status is inform.
+int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int start,
+                  double& objective, double& spare1, std::vector<double>& duals, double& spare2,
+                  std::vector<double>& primal);
+// The quadratic regularization term and its gradient; x and g are 1-based (x[1..n]); column n,
+// THETA, takes no part.
+void regobj(const Regularization& reg, int mode, int n, const double* x, double& f, double* g,
+            int nstate, int nprob);
+
+}  // namespace tarvo::lp

@@ -1,0 +1,155 @@
+#pragma once
+// The optimizer's options: read from the options file SIMPLEX.SPC, set by single phrases at run
+// time, completed by defaults before every solve, and listed in the Parameters report.
+//
+// Integer and real options are held in two blocks. The leading entries of each block are fixed
+// by the IPARM/RPARM phrases (IPARM k and RPARM k address entry k directly, k = 1..30); the rest
+// follow in our own order. Every option starts unset (kUnsetInt / kUnsetReal).
+#include <array>
+
+#include "common/units.h"
+#include "lp/problem_slot.h"
+
+namespace tarvo::lp {
+
+inline constexpr int kUnsetInt = -11111;
+inline constexpr double kUnsetReal = -11111.0;
+
+enum IntOption : int {
+  // IPARM 1..5
+  kCrashOption = 1,
+  kLinesearchDebug,
+  kParametersReport,
+  kScalePrint,
+  kStartColumnClass,
+  // further options, IPARM 6..30 address these in this order
+  kCheckFrequency,
+  kDebugLevel,
+  kExpandFrequency,
+  kFactorizationFrequency,
+  kHessianDimension,
+  kIterationLimit,
+  kLogFrequency,
+  kMajorIterations,
+  kMinorIterations,
+  kMultiplePrice,
+  kPartialPrice,
+  kPrintFile,
+  kPrintLevel,
+  kRowLimit,
+  kScaleOption,
+  kSolutionPrint,
+  kSolutionFile,
+  kObjectiveCheckStart,
+  kConstraintCheckStart,
+  kObjectiveCheckStop,
+  kConstraintCheckStop,
+  kSuperbasicsLimit,
+  kSummaryFile,
+  kSummaryFrequency,
+  kSummaryLevel,
+  // beyond the IPARM block
+  kTimingLevel,
+  kVerifyLevel,
+  kBackupBasisFile,
+  kElementsLimit,
+  kColumnLimit,
+  kCycleLimit,
+  kCyclePrint,
+  kDerivativeLevel,
+  kDumpFile,
+  kErrorMessageLimit,
+  kInsertFile,
+  kJacobianDense,
+  kListLimit,
+  kLoadFile,
+  kObjectiveSense,
+  kMpsFile,
+  kNewBasisFile,
+  kNonlinearConstraints,
+  kNonlinearObjectiveVars,
+  kNonlinearJacobianVars,
+  kOldBasisFile,
+  kPhantomColumns,
+  kPhantomElements,
+  kProblemNumber,
+  kPunchFile,
+  kReportFile,
+  kSaveFrequency,
+  kWorkspaceUser,
+  kWorkspaceTotal,
+  kCompletionFull,
+  kLagrangian,
+  kSpecsFile,
+  kIntOptionCount
+};
+
+enum RealOption : int {
+  // RPARM 1..8
+  kUnboundedObjective = 1,
+  kUnboundedStep,
+  kFunctionPrecision,
+  kMajorDamping,
+  kCrashTolerance,
+  kMinorDamping,
+  kPenaltyParameter,
+  kLuSwapTolerance,
+  // further options, RPARM 9..30 address these in this order
+  kFeasibilityTolerance,
+  kOptimalityTolerance,
+  kPivotTolerance,
+  kLuFactorTolerance,
+  kLuUpdateTolerance,
+  kLuDensityTolerance,
+  kLuSingularityTolerance,
+  kLuSingularityTolerance2,
+  kLinesearchTolerance,
+  kRadiusOfConvergence,
+  kRowTolerance,
+  kScaleTolerance,
+  kSubspaceTolerance,
+  kWeightOnObjective,
+  kAijTolerance,
+  kCentralDifferenceInterval,
+  kCycleTolerance,
+  kDifferenceInterval,
+  kLowerBoundDefault,
+  kUpperBoundDefault,
+  // fixed internal values set by every apply_defaults call
+  kInternalSearchTol1,
+  kInternalSearchTol2,
+  kInternalValue3,
+  kInternalValue4,
+  kInternalValue5,
+  kInternalValue6,
+  kRealOptionCount
+};
+
+struct Options {
+  std::array<int, kIntOptionCount> ival{};
+  std::array<double, kRealOptionCount> rval{};
+  Name8 objective_name;  // names of the sets the MPS reader uses (blank = first found)
+  Name8 rhs_name;
+  Name8 ranges_name;
+  Name8 bounds_name;
+  // Number of nonlinear variables of the problem being solved, known to apply_defaults(2).
+  int nonlinear_variables = 0;
+  bool nonlinear_constraints_present = false;
+};
+
+// Reads one BEGIN ... END set from the opened unit `specs_unit`; returns the status (0 success,
+// n >= 1 phrases not understood, 1 bad unit, 2 end of file inside the set, 3 end of file before
+// BEGIN, 4 ENDRUN before BEGIN).
+int read_specs(Options& options, Units& units, int specs_unit, int print_unit, int summary_unit,
+               int nwcore);
+// Applies one phrase, as one record of the file; returns the number of errors (0 or 1).
+int set_option(Options& options, Units& units, std::string_view phrase, int print_unit,
+               int summary_unit);
+// Applies "phrase value".
+int set_option_int(Options& options, Units& units, std::string_view phrase, int value,
+                   int print_unit, int summary_unit);
+// 1: every option unset (and the fixed initial values); 2: defaults for unset or out-of-range
+// options; 3: the Parameters report on the print file.
+void apply_defaults(Options& options, Units& units, int mode);
+
+}  // namespace tarvo::lp

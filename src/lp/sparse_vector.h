@@ -1,0 +1,21 @@
+#pragma once
+// A vector held densely with the list of its possibly nonzero positions, so that solves with
+// few nonzeros cost time in proportion to those nonzeros (hypersparsity). 0-based.
+#include <vector>
+
+namespace tarvo::lp {
+
+struct SparseVector {
+  int size = 0;
+  int count = 0;               // number of valid entries in index
+  std::vector<int> index;      // positions that may be nonzero (no duplicates), first `count`
+  std::vector<double> value;   // dense values, length size; zero outside index[0..count)
+};
+
+void sparse_resize(SparseVector& v, int size);  // allocates once; sets every value to zero
+void sparse_clear(SparseVector& v);             // zeroes the listed positions, count = 0
+void sparse_set(SparseVector& v, int i, double x);  // appends i to the pattern if not listed
+// Rebuilds the pattern from the dense values (drops entries below `drop` in magnitude).
+void sparse_rebuild_pattern(SparseVector& v, double drop);
+
+}  // namespace tarvo::lp
