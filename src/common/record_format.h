@@ -8,6 +8,7 @@
 //   bn      blanks in numeric input fields are ignored
 //   n(...)  repetition; nX a repeated descriptor (2a4, 3(1x,e20.4))
 // A value too wide for its field fills the field with asterisks.
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,9 +29,10 @@ void write_record(Units& units, int unit, std::string_view edit_list,
                   std::initializer_list<RecordItem> items);
 
 // Reads a fixed-column input record: each a/i/f/e descriptor takes its columns of the line (a line
-// shorter than the list reads as if padded with blanks). Text items are returned as owned strings
-// in `texts` and as string_views into them in `items`. Returns false when a numeric field is not a
-// number.
+// shorter than the list reads as if padded with blanks; a plain "a" takes the rest of the line;
+// fields after a "/" read as blank). Text items are returned as owned strings in `texts` and as
+// string_views into them in `items`, so a copy of an InputRecord must not use its items (a move
+// keeps them valid). Returns false when a numeric field is not a number or the list is malformed.
 struct InputRecord {
   std::vector<std::string> texts;
   std::vector<RecordItem> items;
@@ -38,7 +40,8 @@ struct InputRecord {
 bool read_record(std::string_view edit_list, std::string_view line, InputRecord& record);
 
 // A numeric field read with "e<w>.0" under bn: blanks are ignored, an all-blank field is zero,
-// a field without a decimal point is an integer value. False when the field is not a number.
+// a field without a decimal point is an integer value, the exponent takes E, e, D or d or stands
+// as a bare sign and digits ("1.5+3" is 1500). False when the field is not a number or overflows.
 bool read_real_field(std::string_view field, double& value);
 bool read_integer_field(std::string_view field, long long& value);
 
