@@ -40,8 +40,9 @@ std::string free_real_digits(double value) {
 
 void append_free(std::string& line, std::string_view text) { line += text; }
 
+// The minus sign of a negative integer takes the place of its blank.
 void append_free(std::string& line, long long value) {
-  line += ' ';
+  if (value >= 0) line += ' ';
   line += std::to_string(value);
 }
 
