@@ -154,7 +154,8 @@ bool read_item(Cursor& cursor, EditNode& node, int depth) {
     ++cursor.pos;
   }
   int count = 0;
-  const bool counted = read_number(cursor, count);
+  const bool counted = is_digit(cursor.peek());
+  if (counted && !read_number(cursor, count)) return false;
   if ((negative || c == '+') && !counted) return false;
   if (cursor.at_end()) return false;
   return read_counted(cursor, count, counted, negative, node, depth);
