@@ -12,16 +12,32 @@ void reset_primal_weights(SimplexState& s) {
   std::fill(s.primal_weight.begin(), s.primal_weight.begin() + s.n + s.m, 1.0);
 }
 
-// The amount by which d_j invites variable j to move, 0 when it does not.
-static double primal_price(const SimplexState& s, int j, double tol) {
+// The rate at which the objective falls when variable j moves up (direction +1) or down (-1),
+// 0 when it does not. In phase 1 a nonbasic variable may also be pushed beyond its bound: its own
+// infeasibility then counts at its phase-1 weight, and without such moves the least sum of
+// infeasibilities would only be a local one.
+static double primal_price(const SimplexState& s, int j, double tol, int& direction) {
+  const signed char st = s.state[j];
+  if (st == kBasicVar || s.rejected[j] == s.counters.iterations + 1) return 0.0;
   const double dj = s.d[j];
-  switch (s.state[j]) {
-    case kNonbasicLower: return (dj < -tol && s.upper[j] > s.lower[j]) ? -dj : 0.0;
-    case kNonbasicUpper: return (dj > tol && s.upper[j] > s.lower[j]) ? dj : 0.0;
-    case kNonbasicFree:
-    case kSuperbasicVar: return std::fabs(dj) > tol ? std::fabs(dj) : 0.0;
-    default: return 0.0;
+  const double x = s.x[j];
+  double up = dj, down = -dj;  // directional derivatives
+  if (s.phase == 1) {
+    if (x >= s.upper[j]) up += s.scale[j];
+    if (x <= s.lower[j]) down += s.scale[j];
+  } else {
+    if (x >= s.upper[j]) up = 0.0;
+    if (x <= s.lower[j]) down = 0.0;
   }
+  if (up < -tol && up <= down) {
+    direction = 1;
+    return -up;
+  }
+  if (down < -tol) {
+    direction = -1;
+    return -down;
+  }
+  return 0.0;
 }
 
 // Scans the variables in `partial_price` sections, starting after the section that gave the last
@@ -37,18 +53,22 @@ int choose_entering(SimplexState& s, const SimplexSettings& settings) {
     const int end = std::min(total, begin + length);
     int best = -1;
     double best_score = 0.0;
+    int best_direction = 0;
     for (int j = begin; j < end; ++j) {
-      const double price = primal_price(s, j, tol);
+      int direction = 0;
+      const double price = primal_price(s, j, tol, direction);
       if (price == 0.0) continue;
       const double score = price * price / s.primal_weight[j];
       if (score > best_score) {
         best_score = score;
         best = j;
+        best_direction = direction;
       }
     }
     if (best >= 0) {
       s.partial_start = section;
       s.dj_last = s.d[best];
+      s.entering_direction = best_direction;
       return best;
     }
   }

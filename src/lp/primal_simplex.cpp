@@ -39,14 +39,6 @@ void perturb_bounds(SimplexState& s) {
   s.bounds_perturbed = true;
 }
 
-int entering_direction(const SimplexState& s, int q) {
-  switch (s.state[q]) {
-    case kNonbasicLower: return 1;
-    case kNonbasicUpper: return -1;
-    default: return s.d[q] < 0.0 ? 1 : -1;
-  }
-}
-
 void move_basics(SimplexState& s, double delta) {
   const SparseVector& alpha = s.column;
   for (int t = 0; t < alpha.count; ++t) {
@@ -86,10 +78,15 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     }
     if (s.counters.iterations >= settings.iteration_limit) return kExitIterations;
 
-    const int direction = entering_direction(s, q);
+    const int direction = s.entering_direction;
     load_column(s, q, s.column);
     lu_ftran(s.lu, s.column, true);
-    const PrimalStep step = primal_ratio_test(s, q, direction, settings);
+    const PrimalStep step = s.phase == 1 ? phase_one_ratio_test(s, q, direction, settings)
+                                         : primal_ratio_test(s, q, direction, settings);
+    if (step.rejected) {
+      s.rejected[q] = s.counters.iterations + 1;
+      continue;
+    }
     if (step.unbounded) {
       if (!fresh || s.phase == 1) {
         if (s.phase == 1 && fresh) return kExitNumerical;

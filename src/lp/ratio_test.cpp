@@ -47,7 +47,9 @@ PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const Simple
   const double tol = settings.feasibility_tol;
   const double relax = kHarrisRelax * tol;
   const double pivot_floor = std::max(settings.pivot_tol, kRatioPivotFloor);
-  const double own_limit = direction > 0 ? s.upper[q] - s.x[q] : s.x[q] - s.lower[q];
+  // Moving away from its feasible range (phase 1 only) the entering variable has no own limit.
+  double own_limit = direction > 0 ? s.upper[q] - s.x[q] : s.x[q] - s.lower[q];
+  if (own_limit <= 0.0 && s.phase == 1) own_limit = kInf;
   const SparseVector& alpha = s.column;
 
   double theta_max = kInf;
@@ -80,6 +82,93 @@ PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const Simple
     out.leaving_value = b.target;
     out.leaving_state = b.target == s.lower[s.head[p]] ? kNonbasicLower : kNonbasicUpper;
   }
+  return out;
+}
+
+// Phase 1: the sum of infeasibilities is piecewise linear along the move. Every basic variable
+// that reaches a bound (becoming feasible or infeasible) and the entering variable passing its
+// own other bound raise the slope by |rate| times the variable's weight; the move goes on to the
+// breakpoint where the slope stops being negative, and the variable there leaves (among ties,
+// the one with the largest pivot).
+PrimalStep phase_one_ratio_test(SimplexState& s, int q, int direction, const SimplexSettings& settings) {
+  PrimalStep out;
+  const double tol = settings.feasibility_tol;
+  const double pivot_floor = std::max(settings.pivot_tol, kRatioPivotFloor);
+  const SparseVector& alpha = s.column;
+  const bool elastic = direction > 0 ? s.x[q] >= s.upper[q] : s.x[q] <= s.lower[q];
+  double slope = direction * s.d[q] + (elastic ? s.scale[q] : 0.0);
+
+  // Breakpoint k: code 2p (position p at its lower bound), 2p+1 (at its upper), -1 the entering
+  // variable's own bound; its step in candidate_ratio, sorted through `flipped`.
+  int count = 0;
+  auto add = [&](int code, double step) {
+    s.candidate[count] = code;
+    s.candidate_ratio[count] = std::max(0.0, step);
+    s.flipped[count] = count;
+    ++count;
+  };
+  if (!elastic) {
+    const double own = direction > 0 ? s.upper[q] - s.x[q] : s.x[q] - s.lower[q];
+    if (std::isfinite(own)) add(-1, own);
+  }
+  for (int t = 0; t < alpha.count; ++t) {
+    const int p = alpha.index[t];
+    const double a = alpha.value[p];
+    if (std::fabs(a) < pivot_floor) continue;
+    const int j = s.head[p];
+    const double rate = -direction * a;
+    const double x = s.x[j];
+    if (rate > 0.0) {
+      if (x < s.lower[j] - tol) add(2 * p, (s.lower[j] - x) / rate);
+      if (std::isfinite(s.upper[j]) && x <= s.upper[j] + tol) add(2 * p + 1, (s.upper[j] - x) / rate);
+    } else {
+      if (x > s.upper[j] + tol) add(2 * p + 1, (x - s.upper[j]) / -rate);
+      if (std::isfinite(s.lower[j]) && x >= s.lower[j] - tol) add(2 * p, (x - s.lower[j]) / -rate);
+    }
+  }
+  int* order = s.flipped.data();
+  std::sort(order, order + count, [&s](int a, int b) { return s.candidate_ratio[a] < s.candidate_ratio[b]; });
+  auto weight = [&](int code) {
+    if (code < 0) return s.scale[q];
+    const int p = code / 2;
+    return std::fabs(alpha.value[p]) * s.scale[s.head[p]];
+  };
+  int stop = -1;
+  for (int k = 0; k < count; ++k) {
+    slope += weight(s.candidate[order[k]]);
+    if (slope >= -settings.optimality_tol * 1e-3) {
+      stop = k;
+      break;
+    }
+  }
+  if (stop < 0) {
+    out.unbounded = true;
+    return out;
+  }
+  // Ties at the stopping step: the largest pivot leaves.
+  const double step = s.candidate_ratio[order[stop]];
+  // A move beyond the entering variable's own bound that stops at once only trades one
+  // infeasible variable for another; taking such moves could go round in circles.
+  if (elastic && step <= 0.0) {
+    out.rejected = true;
+    return out;
+  }
+  int best = order[stop];
+  for (int k = stop + 1; k < count && s.candidate_ratio[order[k]] <= step + 1e-12 * (1.0 + step); ++k) {
+    const int code = s.candidate[order[k]];
+    const int b = s.candidate[best];
+    if (code >= 0 && (b < 0 || std::fabs(alpha.value[code / 2]) > std::fabs(alpha.value[b / 2]))) best = order[k];
+  }
+  const int code = s.candidate[best];
+  out.step = step;
+  if (code < 0) {
+    out.flip = true;
+    return out;
+  }
+  out.position = code / 2;
+  const int j = s.head[out.position];
+  out.leaving_state = code % 2 == 0 ? kNonbasicLower : kNonbasicUpper;
+  out.leaving_value = code % 2 == 0 ? s.lower[j] : s.upper[j];
   return out;
 }
 

@@ -124,6 +124,8 @@ struct SimplexState {
   std::vector<double> dual_weight;    // [m]
   bool dual_weights_valid = false;
   int partial_start = 0;
+  int entering_direction = 1;   // +1 up, -1 down, set by the primal pricing
+  std::vector<int> rejected;    // [n + m] iteration + 1 in which a candidate was turned down
 
   // Work vectors.
   SparseVector column;  // [m] the entering column, transformed

@@ -188,6 +188,7 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.pivot_index.assign(nt, 0);
   s.pivot_mark.assign(nt, 0);
   s.candidate.assign(nt, 0);
+  s.rejected.assign(nt, -1);
   s.flipped.assign(nt, 0);
   s.superbasic.assign(nmax, 0);
   for (auto* v : {&s.column, &s.rho, &s.tau, &s.work}) sparse_resize(*v, mmax);

@@ -96,10 +96,12 @@ struct PrimalStep {
   double step = 0.0;  // distance the entering variable moves
   bool unbounded = false;
   bool flip = false;
+  bool rejected = false;  // a phase-1 move beyond the entering variable's bound that gains nothing
   int leaving_state = kNonbasicLower;
   double leaving_value = 0.0;
 };
 PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const SimplexSettings& settings);
+PrimalStep phase_one_ratio_test(SimplexState& s, int q, int direction, const SimplexSettings& settings);
 struct DualStep {
   int entering = -1;  // -1: no candidate, the problem is infeasible
   double dual_step = 0.0;

@@ -48,10 +48,8 @@ inline void load_slot(const DenseLp& lp, ProblemSlot& slot) {
   int k = 1;
   for (int j = 0; j < lp.n; ++j) {
     slot.ka[j + 1] = k;
-    if (lp.c[j] != 0.0) {
-      slot.ha[k] = 1;
-      slot.a[k++] = lp.c[j];
-    }
+    slot.ha[k] = 1;  // kept when zero, so that cost changes leave the structure alone
+    slot.a[k++] = lp.c[j];
     for (int i = 0; i < lp.m; ++i) {
       if (lp.a[i][j] == 0.0) continue;
       slot.ha[k] = i + 2;
