@@ -2,6 +2,7 @@
 // The optimizer interface the rest of TARVO uses: initialization from SIMPLEX.SPC, the three
 // problem slots, the active slot, linear or quadratic objective, and solve requests.
 #include <array>
+#include <string_view>
 #include <vector>
 
 #include "common/units.h"
@@ -13,6 +14,7 @@ namespace tarvo::lp {
 
 inline constexpr int kSpecsUnit = 4;
 inline constexpr int kPrintUnit = 23;
+inline constexpr int kInitFailed = 13;
 
 struct Optimizer {
   Options options;
@@ -34,6 +36,8 @@ int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int
 void select_problem(Optimizer& opt, int slot);
 ProblemSlot& active_slot(Optimizer& opt);
 void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_unit);
+// The optimizer's start word for start 0 ("cold"), 1 ("warm") or any other value ("hot ").
+std::string_view start_word(int start);
 // Solves the active slot; start 0 cold, 1 warm, any other value hot. duals: pi(1..m) then
 // rc(1..n); primal: xn(1..n+m); both 1-based, sized by the caller. Returns 0; the status is inform.
 int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int start,

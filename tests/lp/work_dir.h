@@ -1,43 +1,30 @@
 #pragma once
 // Tests that read and write files run in a fresh temporary directory of their own.
 #include <filesystem>
-#include <fstream>
-#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "run_in_dir.h"
+
 namespace tarvo::lp::testing {
+
+using tarvo::testing::read_file;
+using tarvo::testing::write_file;
 
 // Makes a fresh directory and enters it; at the end returns to the previous directory and
 // removes it.
 struct WorkDir {
   std::filesystem::path previous = std::filesystem::current_path();
-  std::filesystem::path path;
+  std::filesystem::path path = tarvo::testing::fresh_directory("lp");
 
-  WorkDir() {
-    std::random_device seed;
-    do {
-      path = std::filesystem::temp_directory_path() / ("tarvo_lp_" + std::to_string(seed()));
-    } while (!std::filesystem::create_directory(path));
-    std::filesystem::current_path(path);
-  }
+  WorkDir() { std::filesystem::current_path(path); }
   ~WorkDir() {
     std::filesystem::current_path(previous);
     std::error_code ignored;
     std::filesystem::remove_all(path, ignored);
   }
 };
-
-inline void write_file(const std::string& name, const std::string& text) {
-  std::ofstream(name, std::ios::binary) << text;
-}
-
-inline std::string read_file(const std::string& name) {
-  std::ostringstream text;
-  text << std::ifstream(name, std::ios::binary).rdbuf();
-  return text.str();
-}
 
 inline std::vector<std::string> read_lines(const std::string& name) {
   std::vector<std::string> lines;
