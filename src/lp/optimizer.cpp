@@ -1,6 +1,7 @@
 #include "lp/optimizer.h"
 
 #include <cstddef>
+#include <string_view>
 
 #include "common/free_format.h"
 
@@ -51,6 +52,13 @@ void copy_solution(const ProblemSlot& s, std::vector<double>& duals,
   for (std::size_t j = 1; j <= nb; ++j) primal[j] = s.xn[j];
   for (int i = 1; i <= s.m; ++i) duals[i] = s.pi[i];
   for (int j = 1; j <= s.n; ++j) duals[s.m + j] = s.rc[j];
+}
+
+// The optimizer's start word for start 0, 1 or any other value.
+std::string_view start_word(int start) {
+  if (start == 0) return "cold";
+  if (start == 1) return "warm";
+  return "hot ";
 }
 
 void report_inform(Units& units, int out_unit, int inform) {
@@ -106,12 +114,6 @@ void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_uni
   set_option_int(opt.options, units, "SUPERBASICS LIMIT", s.n + 1, out_unit, 0);
   set_option_int(opt.options, units, "HESSIAN DIMENSION", s.n + 1, out_unit, 0);
   set_option_int(opt.options, units, "PARTIAL PRICE", 1, out_unit, 0);
-}
-
-std::string_view start_word(int start) {
-  if (start == 0) return "cold";
-  if (start == 1) return "warm";
-  return "hot ";
 }
 
 int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int start,

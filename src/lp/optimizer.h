@@ -2,7 +2,6 @@
 // The optimizer interface the rest of TARVO uses: initialization from SIMPLEX.SPC, the three
 // problem slots, the active slot, linear or quadratic objective, and solve requests.
 #include <array>
-#include <string_view>
 #include <vector>
 
 #include "common/units.h"
@@ -36,8 +35,6 @@ int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int
 void select_problem(Optimizer& opt, int slot);
 ProblemSlot& active_slot(Optimizer& opt);
 void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_unit);
-// The optimizer's start word for start 0 ("cold"), 1 ("warm") or any other value ("hot ").
-std::string_view start_word(int start);
 // Solves the active slot; start 0 cold, 1 warm, any other value hot. duals: pi(1..m) then
 // rc(1..n); primal: xn(1..n+m); both 1-based, sized by the caller. Returns 0; the status is inform.
 int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int start,

@@ -17,11 +17,11 @@ inline constexpr int kUnsetInt = -11111;
 inline constexpr double kUnsetReal = -11111.0;
 
 // Status of read_specs; a count n >= 1 of phrases not understood is returned as it stands.
-inline constexpr int kSpecsRead = 0;
-inline constexpr int kSpecsBadUnit = 1;
-inline constexpr int kSpecsEndOfFileInSet = 2;
-inline constexpr int kSpecsEndOfFileBeforeBegin = 3;
-inline constexpr int kSpecsEndRun = 4;
+inline constexpr int kOptionsRead = 0;
+inline constexpr int kOptionsBadUnit = 1;
+inline constexpr int kOptionsEndOfFileInSet = 2;
+inline constexpr int kOptionsEndOfFileBeforeBegin = 3;
+inline constexpr int kOptionsEndRun = 4;
 
 enum IntOption : int {
   // IPARM 1..5
@@ -160,7 +160,7 @@ int set_option(Options& options, Units& units, std::string_view phrase, int prin
 int set_option_int(Options& options, Units& units, std::string_view phrase, int value,
                    int print_unit, int summary_unit);
 // 1: every option unset (and the fixed initial values); 2: defaults for unset or out-of-range
-// options; 3: the Parameters report on the print file. The units (Specs file, PRINT FILE,
+// options; 3: the Parameters report on the print file. The units (options file, PRINT FILE,
 // SUMMARY FILE) and the workspace sizes are kept by mode 1: read_specs sets them.
 void apply_defaults(Options& options, Units& units, int mode);
 

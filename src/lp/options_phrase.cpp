@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "common/record_format.h"
-#include "lp/specs_keywords.h"
-#include "lp/specs_record.h"
+#include "lp/options_keywords.h"
+#include "lp/options_record.h"
 
 namespace tarvo::lp {
 

@@ -18,7 +18,7 @@ using Lines = std::vector<std::string>;
 constexpr int kOut = 17;
 constexpr int kErr = 48;
 
-const std::string kSampleSpecs =
+const std::string kSampleOptions =
     "BEGIN  options for the bundled test problems\n"
     "   ROWS                   3000\n"
     "   COLUMNS               10000\n"
@@ -29,17 +29,20 @@ const std::string kSampleSpecs =
 
 struct InitCase {
   const char* name;
-  const char* specs;  // nullptr: no SIMPLEX.SPC
+  const char* text;  // SIMPLEX.SPC, nullptr: none
   int debug;
   int result;
   Lines errors;
   int rows, columns, elements;  // the printed sizes (0: none printed)
   int print_file;               // PRINT FILE afterwards
+  Lines print_lines = {};       // each must appear in MODEL.MO
 };
 
 const InitCase kCases[] = {
-    {"sample, no debug", kSampleSpecs.c_str(), 0, 0, {}, 3000, 10000, 120000, 0},
-    {"sample, debug", kSampleSpecs.c_str(), 1, 0, {}, 3000, 10000, 120000, kPrintUnit},
+    {"sample, no debug", kSampleOptions.c_str(), 0, 0, {}, 3000, 10000, 120000, 0,
+     {"      BEGIN  options for the bundled test problems", "         ITERATIONS LIMIT     200000",
+      "      END", "      SUMMARY FILE 0", "      PRINT   FILE 0"}},
+    {"sample, debug", kSampleOptions.c_str(), 1, 0, {}, 3000, 10000, 120000, kPrintUnit},
     {"missing file", nullptr, 0, kInitFailed,
      {" ERROR: SPECS file SIMPLEX.SPC not found"}, 0, 0, 0, 0},
     {"faulty file", "BEGIN\nROWS 40\nBOGUS\nEND\n", 0, kInitFailed,
@@ -52,11 +55,11 @@ Lines size_lines(int rows, int columns, int elements) {
           free_line("columss: ", columns), free_line("elements:", elements), free_line()};
 }
 
-TEST(OptimizerInit, ReadsTheSpecsFileAndSizesEverySlot) {
+TEST(OptimizerInit, ReadsTheOptionsFileAndSizesEverySlot) {
   for (const InitCase& c : kCases) {
     SCOPED_TRACE(c.name);
     testing::WorkDir dir;
-    if (c.specs != nullptr) testing::write_file("SIMPLEX.SPC", c.specs);
+    if (c.text != nullptr) testing::write_file("SIMPLEX.SPC", c.text);
     Units units;
     open_unit(units, kOut, "MODEL.SCR", OpenStatus::unknown);
     open_unit(units, kErr, "MODEL.ERR", OpenStatus::unknown);
@@ -67,13 +70,17 @@ TEST(OptimizerInit, ReadsTheSpecsFileAndSizesEverySlot) {
     EXPECT_FALSE(unit_is_open(units, kSpecsUnit));
     close_all_units(units);
     EXPECT_EQ(testing::read_lines("MODEL.ERR"), c.errors);
-    EXPECT_EQ(std::filesystem::exists("MODEL.MO"), c.specs != nullptr);
+    EXPECT_EQ(std::filesystem::exists("MODEL.MO"), c.text != nullptr);
     if (c.rows == 0) {
       EXPECT_EQ(testing::read_lines("MODEL.SCR"), Lines{});
       EXPECT_TRUE(opt.slot[kMasterSlot].a.empty());
       continue;
     }
     EXPECT_EQ(testing::read_lines("MODEL.SCR"), size_lines(c.rows, c.columns, c.elements));
+    const Lines print = testing::read_lines("MODEL.MO");
+    for (const std::string& line : c.print_lines) {
+      EXPECT_TRUE(testing::has_line(print, line)) << line;
+    }
     EXPECT_EQ(opt.options.ival[kPrintFile], c.print_file);
     EXPECT_EQ(opt.nwcore, 2 * c.elements);
     EXPECT_EQ(opt.nbmax, c.rows + c.columns);
@@ -83,23 +90,6 @@ TEST(OptimizerInit, ReadsTheSpecsFileAndSizesEverySlot) {
       EXPECT_EQ(opt.slot[k].a.size(), static_cast<std::size_t>(c.elements) + 1);
     }
   }
-}
-
-TEST(OptimizerInit, PrintFileHoldsTheEchoAndTheSwitchOff) {
-  testing::WorkDir dir;
-  testing::write_file("SIMPLEX.SPC", kSampleSpecs);
-  Units units;
-  Optimizer opt;
-  ASSERT_EQ(optimizer_init(opt, units, 0, 0, 0), 0);
-  close_all_units(units);
-  const Lines print = testing::read_lines("MODEL.MO");
-  for (const char* line : {"      BEGIN  options for the bundled test problems",
-                           "         ITERATIONS LIMIT     200000", "      END",
-                           "      SUMMARY FILE 0", "      PRINT   FILE 0"}) {
-    EXPECT_TRUE(testing::has_line(print, line)) << line;
-  }
-  EXPECT_EQ(opt.options.ival[kSummaryFile], 0);
-  EXPECT_EQ(opt.options.ival[kIterationLimit], 200000);
 }
 
 struct Initialized {
@@ -176,13 +166,6 @@ TEST(Regobj, ProximalTermLeavesTheLastColumnOut) {
     EXPECT_DOUBLE_EQ(f, c.f);
     for (int j = 1; j <= n; ++j) EXPECT_DOUBLE_EQ(g[j], c.g[j]) << j;
   }
-}
-
-TEST(StartWord, ColdWarmOrHot) {
-  EXPECT_EQ(start_word(0), "cold");
-  EXPECT_EQ(start_word(1), "warm");
-  EXPECT_EQ(start_word(5), "hot ");
-  EXPECT_EQ(start_word(-1), "hot ");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "lp/specs_keywords.h"
+#include "lp/options_keywords.h"
 
 #include <array>
 #include <span>

@@ -1,4 +1,4 @@
-#include "lp/specs_record.h"
+#include "lp/options_record.h"
 
 #include <cctype>
 #include <cmath>

@@ -19,7 +19,7 @@ constexpr int kSpecs = 4;
 constexpr int kPrint = 23;
 constexpr int kSummary = 24;
 
-struct SpecsCase {
+struct FileCase {
   const char* name;
   std::string text;
   int status;
@@ -30,7 +30,7 @@ struct SpecsCase {
 
 const std::string kPad66(66, ' ');
 
-const SpecsCase kCases[] = {
+const FileCase kCases[] = {
     {"plain set", "* comment first\n\nBEGIN run\n ROWS 5000\nEND\n", 0,
      {"      BEGIN run", "       ROWS 5000", "      END"}, {" BEGIN run"}, {{kRowLimit, 5000}}},
     {"unknown keyword", "BEGIN\nFOO 5\nEND\n", 1,
@@ -72,14 +72,14 @@ bool contains(const Lines& lines, const std::string& wanted) {
   return testing::has_line(lines, wanted);
 }
 
-TEST(SpecsFile, StatusMessagesAndOptions) {
+TEST(OptionsFile, StatusMessagesAndOptions) {
   testing::WorkDir dir;
-  for (const SpecsCase& c : kCases) {
+  for (const FileCase& c : kCases) {
     SCOPED_TRACE(c.name);
-    testing::write_file("SPECS", c.text);
+    testing::write_file("OPTIONS", c.text);
     Units units;
     Options o;
-    ASSERT_TRUE(open_unit(units, kSpecs, "SPECS", OpenStatus::old_file));
+    ASSERT_TRUE(open_unit(units, kSpecs, "OPTIONS", OpenStatus::old_file));
     open_unit(units, kPrint, "PRINT", OpenStatus::unknown);
     open_unit(units, kSummary, "SUMMARY", OpenStatus::unknown);
     EXPECT_EQ(read_specs(o, units, kSpecs, kPrint, kSummary, 0), c.status);
@@ -92,12 +92,12 @@ TEST(SpecsFile, StatusMessagesAndOptions) {
   }
 }
 
-TEST(SpecsFile, LookForBeginBlockIsWrittenOnce) {
+TEST(OptionsFile, LookForBeginBlockIsWrittenOnce) {
   testing::WorkDir dir;
-  testing::write_file("SPECS", "ROWS 1\nROWS 2\nBEGIN\nEND\n");
+  testing::write_file("OPTIONS", "ROWS 1\nROWS 2\nBEGIN\nEND\n");
   Units units;
   Options o;
-  open_unit(units, kSpecs, "SPECS", OpenStatus::old_file);
+  open_unit(units, kSpecs, "OPTIONS", OpenStatus::old_file);
   open_unit(units, kPrint, "PRINT", OpenStatus::unknown);
   EXPECT_EQ(read_specs(o, units, kSpecs, kPrint, 0, 0), 0);
   close_all_units(units);
@@ -106,18 +106,18 @@ TEST(SpecsFile, LookForBeginBlockIsWrittenOnce) {
   EXPECT_FALSE(contains(print, " ---->ROWS 2"));
 }
 
-TEST(SpecsFile, UnitsOutsideTheRangeAndUnitZero) {
+TEST(OptionsFile, UnitsOutsideTheRangeAndUnitZero) {
   Units units;
   Options o;
-  EXPECT_EQ(read_specs(o, units, 100, 0, 0, 0), kSpecsBadUnit);
-  EXPECT_EQ(read_specs(o, units, -1, 0, 0, 0), kSpecsBadUnit);
+  EXPECT_EQ(read_specs(o, units, 100, 0, 0, 0), kOptionsBadUnit);
+  EXPECT_EQ(read_specs(o, units, -1, 0, 0, 0), kOptionsBadUnit);
   o.ival[kRowLimit] = 5;
-  EXPECT_EQ(read_specs(o, units, 0, 7, 8, 900), kSpecsRead);
+  EXPECT_EQ(read_specs(o, units, 0, 7, 8, 900), kOptionsRead);
   EXPECT_EQ(o.ival[kRowLimit], kUnsetInt);
   EXPECT_EQ(o.ival[kPrintFile], 7);
   EXPECT_EQ(o.ival[kSummaryFile], 8);
   EXPECT_EQ(o.ival[kWorkspaceTotal], 900);
-  EXPECT_EQ(read_specs(o, units, 9, 0, 0, 0), kSpecsEndOfFileBeforeBegin);  // never opened
+  EXPECT_EQ(read_specs(o, units, 9, 0, 0, 0), kOptionsEndOfFileBeforeBegin);  // never opened
 }
 
 }  // namespace
