@@ -80,6 +80,7 @@ int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int
     return kInitFailed;
   }
   open_unit(units, kPrintUnit, "MODEL.MO", OpenStatus::unknown);
+  // The workspace is sized from ELEMENTS, so its total is known only after the read.
   const int status = read_specs(opt.options, units, kSpecsUnit, kPrintUnit, 0, 0);
   close_unit(units, kSpecsUnit);
   int result = 0;
@@ -89,6 +90,7 @@ int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int
   } else if (debug == 0) {
     switch_print_files_off(opt, units);
   }
+  // A file without ROWS, COLUMNS or ELEMENTS still sizes the slots: by the defaults of a solve.
   complete_capacities(opt.options);
   write_sizes(opt.options, units, out_unit);
   allocate_slots(opt);

@@ -1,6 +1,5 @@
 #include "lp/options_record.h"
 
-#include <cctype>
 #include <cmath>
 #include <cstdlib>
 
