@@ -54,6 +54,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
   int code = refresh(s, settings, units, !s.factors_valid);
   if (code != kExitOptimal) return code;
   reset_primal_weights(s);
+  if (s.stop_when_feasible && s.phase == 2) return kExitOptimal;
   bool fresh = true;  // x and d were just computed from the factors, not updated
   int degenerate = 0;
   int refactors_in_a_row = 0;
@@ -127,6 +128,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     if (s.phase == 1) {
       measure_infeasibility(s, tol);
       if (s.ninf == 0) {
+        if (s.stop_when_feasible) return kExitOptimal;
         s.phase = 2;
         reset_primal_weights(s);
       }

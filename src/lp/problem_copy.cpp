@@ -154,7 +154,7 @@ void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_dua
   for (int j = 0; j < s.n + s.m; ++j) slot.ns += s.state[j] == kSuperbasicVar;
   slot.ninf = s.ninf;
   slot.sinf = s.sinf;
-  slot.obj = activity + slot.objadd;
+  slot.obj = activity + s.nonlinear_objective + slot.objadd;
 }
 
 }  // namespace tarvo::lp

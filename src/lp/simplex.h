@@ -147,9 +147,15 @@ struct SimplexState {
   std::vector<int> superbasic;     // [<= n] variables in the superbasic set
   int superbasic_count = 0;
   std::vector<double> hessian_diag;  // [n + m] working-space diagonal of the Hessian
-  std::vector<double> reduced_hessian;  // dense ns x ns, Cholesky factor
-  std::vector<double> gradient;    // [n + m]
+  std::vector<double> centre;        // [n + m] working-space centre of the quadratic term
+  std::vector<double> reduced_hessian;  // dense ns x ns, then its Cholesky factor (grown on use)
+  std::vector<double> basic_moves;      // dense m x ns: B^-1 times the superbasic columns
+  std::vector<double> search;           // [n + m] search direction
+  std::vector<double> regobj_x;         // [n + 1] column values for regobj, 1-based
+  std::vector<double> regobj_g;         // [n + 1] its gradient
+  double nonlinear_objective = 0.0;     // f(x) at the final point
   bool quadratic = false;
+  bool stop_when_feasible = false;      // the primal method ends with phase 1
 
   // Reporting.
   SimplexCounters counters;

@@ -142,8 +142,14 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
     s.dual_weights_valid = false;
   }
   s.quadratic = slot.nnobj > 0;
+  s.nonlinear_objective = 0.0;
   const int code = s.quadratic ? run_reduced_gradient(s, settings, units, regularization)
                                : solve_working_problem(s, settings, units);
+  if (s.quadratic && s.factors_valid && code != kExitInfeasible) {
+    // Duals and reduced gradients of the final point, with the true costs kept in base_cost.
+    compute_primal_values(s);
+    evaluate_quadratic_gradient(s, regularization);
+  }
   store_solution(s, slot, code == kExitInfeasible);
   if (code != kExitOptimal) return code;
   // Optimal or near-optimal: the largest reduced gradient against the size of the duals.
@@ -169,7 +175,7 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.col_index.assign(nemax, 0);
   s.row_value.assign(nemax, 0.0);
   for (auto* v : {&s.cost, &s.base_cost, &s.lower, &s.upper, &s.base_lower, &s.base_upper, &s.scale, &s.x, &s.d,
-                  &s.primal_weight, &s.pivot_row, &s.candidate_ratio, &s.hessian_diag, &s.gradient})
+                  &s.primal_weight, &s.pivot_row, &s.candidate_ratio, &s.hessian_diag, &s.centre, &s.search})
     v->assign(nt, 0.0);
   std::fill(s.scale.begin(), s.scale.end(), 1.0);
   s.col_scale_work.assign(nmax, 1.0);
@@ -190,7 +196,9 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.candidate.assign(nt, 0);
   s.rejected.assign(nt, -1);
   s.flipped.assign(nt, 0);
-  s.superbasic.assign(nmax, 0);
+  s.superbasic.assign(nt, 0);
+  s.regobj_x.assign(nmax + 1, 0.0);
+  s.regobj_g.assign(nmax + 1, 0.0);
   for (auto* v : {&s.column, &s.rho, &s.tau, &s.work}) sparse_resize(*v, mmax);
 }
 
@@ -242,8 +250,7 @@ int optimizer_solve(SimplexState& state, Options& options, Units& units, Problem
   state.nnobj = slot.nnobj;
   state.nnjac = slot.nnjac;
   state.nwcore = nwcore;
-  options.nonlinear_variables = std::max(slot.nnobj, slot.nnjac);
-  options.nonlinear_constraints_present = slot.nncon > 0;
+  set_problem_counts(options, slot.nncon, slot.nnobj, slot.nnjac);
   apply_defaults(options, units, 2);
   slot.mincor = simplex_workspace_needed(slot.m, slot.n, slot.ne);
   if (slot.mincor > nwcore) return kExitWorkspace;

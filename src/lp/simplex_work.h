@@ -114,6 +114,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units);
 int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units);
 int run_reduced_gradient(SimplexState& s, const SimplexSettings& settings, Units& units,
                          const Regularization& regularization);
+void evaluate_quadratic_gradient(SimplexState& s, const Regularization& regularization);
 
 // Output (simplex_log.cpp).
 void log_iteration(SimplexState& s, const SimplexSettings& settings, Units& units);
