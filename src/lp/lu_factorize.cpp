@@ -222,8 +222,6 @@ void store_l(LuFactors& lu) {
 // Sizes the row-eta file and the pivot order for the updates this factorization may take.
 void prepare_updates(LuFactors& lu, const LuSettings& settings) {
   const int max_updates = std::max(0, settings.max_updates);
-  grow_to(lu.order_row, lu.m + max_updates);
-  grow_to(lu.order_col, lu.m + max_updates);
   grow_to(lu.eta_row, max_updates);
   grow_to(lu.eta_start, max_updates + 1);
   grow_to(lu.eta_index, lu.fill_limit);
@@ -277,6 +275,9 @@ LuStatus lu_factorize(LuFactors& lu, int m, int n, const int* col_start, const i
   const int rank = lu.build.steps;
   repair_singular(lu, basis_head, report);
   store_l(lu);
+  // The pivot order has a slot for every row and one more for each update to come.
+  grow_to(lu.order_row, m + std::max(0, settings.max_updates));
+  grow_to(lu.order_col, m + std::max(0, settings.max_updates));
   store_u(lu, rank);
   prepare_updates(lu, settings);
   lu.valid = true;
