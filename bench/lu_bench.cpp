@@ -150,6 +150,7 @@ void run(int m, double logical_fraction, unsigned seed) {
   const int changes = 2000;
   int accepted = 0;
   int refused = 0;
+  int refusals[8] = {0, 0, 0, 0, 0, 0, 0, 0};
   double update_time = 0.0;
   double spike_ftran_time = 0.0;
   double refactor_time = 0.0;
@@ -178,6 +179,7 @@ void run(int m, double logical_fraction, unsigned seed) {
       continue;
     }
     ++refused;
+    ++refusals[static_cast<int>(tarvo::lp::lu_last_refusal(lu))];
     t0 = std::chrono::steady_clock::now();
     tarvo::lp::lu_factorize(lu, a.m, a.n, a.col_start.data(), a.row_index.data(), a.value.data(),
                             head.data(), settings, report);
@@ -200,6 +202,12 @@ void run(int m, double logical_fraction, unsigned seed) {
               accepted > 0 ? static_cast<double>(length_sum) / accepted : 0.0);
   std::printf("  refactorize          %10.1f us   (after a refusal)\n",
               refused > 0 ? refactor_time / refused * 1e6 : 0.0);
+  std::printf("  refusals: %d too many updates, %d singular, %d unstable, %d fill, %d storage\n",
+              refusals[static_cast<int>(tarvo::lp::LuRefusal::too_many_updates)],
+              refusals[static_cast<int>(tarvo::lp::LuRefusal::singular)],
+              refusals[static_cast<int>(tarvo::lp::LuRefusal::unstable)],
+              refusals[static_cast<int>(tarvo::lp::LuRefusal::fill)],
+              refusals[static_cast<int>(tarvo::lp::LuRefusal::storage)]);
 }
 
 }  // namespace

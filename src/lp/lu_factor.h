@@ -140,6 +140,9 @@ LuStatus lu_factorize(LuFactors& lu, int m, int n, const int* col_start, const i
                       const double* value, int* basis_head, const LuSettings& settings,
                       LuReport& report);
 
+// The solves need factors from a factorization that returned ok or singular_repaired; without
+// them they leave rhs as it is.
+//
 // Solves B x = rhs in place. With keep_spike the partially transformed column is remembered for
 // the next lu_update.
 void lu_ftran(LuFactors& lu, SparseVector& rhs, bool keep_spike);

@@ -17,8 +17,8 @@ inline constexpr int kLuSearchLimit = 4;
 inline constexpr int kLuLineSlack = 4;
 // A solve searches the reach of the nonzeros when they are at most this fraction of m, and falls
 // back to a full sweep when the reach passes the second fraction.
-inline constexpr double kLuHyperStart = 0.10;
-inline constexpr double kLuHyperAbandon = 0.30;
+inline constexpr double kLuHyperStart = 0.05;
+inline constexpr double kLuHyperAbandon = 0.10;
 // An update is refused when its new diagonal and the pivot of the ftran result times the old
 // diagonal (equal in exact arithmetic) differ relatively by more than this.
 inline constexpr double kLuUpdateCheckTol = 1e-8;

@@ -276,7 +276,7 @@ void lu_solve_u_transposed(LuFactors& lu, SparseVector& x) {
 }
 
 void lu_ftran(LuFactors& lu, SparseVector& rhs, bool keep_spike) {
-  if (lu.m == 0) return;
+  if (lu.m == 0 || !lu.valid) return;
   solve_l(lu, rhs);
   apply_etas(lu, rhs);
   if (keep_spike) {
@@ -289,7 +289,7 @@ void lu_ftran(LuFactors& lu, SparseVector& rhs, bool keep_spike) {
 }
 
 void lu_btran(LuFactors& lu, SparseVector& rhs) {
-  if (lu.m == 0) return;
+  if (lu.m == 0 || !lu.valid) return;
   lu_solve_u_transposed(lu, rhs);
   apply_etas_transposed(lu, rhs);
   solve_l_transposed(lu, rhs);
