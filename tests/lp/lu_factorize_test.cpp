@@ -34,6 +34,7 @@ TEST(LuFactorize, SolvesAgreeWithDenseElimination) {
     ASSERT_EQ(factorize(lu, a, head, settings, report), LuStatus::ok);
     EXPECT_EQ(report.rank, c.m);
     EXPECT_TRUE(report.replaced_positions.empty());
+    EXPECT_EQ(report.factor_tol_used, settings.factor_tol);
     EXPECT_EQ(report.length_u, lu_length_u(lu));
     const std::vector<double> b = dense_basis(a, head);
     for (const int nonzeros : {1, 3, c.m}) {
@@ -92,6 +93,7 @@ TEST(LuFactorize, SingularBasesAreRepairedWithLogicals) {
       LuReport report;
       ASSERT_EQ(factorize(lu, a, head, settings, report), LuStatus::singular_repaired);
       EXPECT_EQ(report.rank, c.rank);
+      EXPECT_LT(report.factor_tol_used, settings.factor_tol) << "a singular basis is retried";
       ASSERT_EQ(static_cast<int>(report.replaced_positions.size()), c.m - c.rank);
       for (const int p : report.replaced_positions) EXPECT_GE(head[p], a.n);
       const std::vector<double> b = dense_basis(a, head);
