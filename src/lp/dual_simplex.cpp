@@ -160,6 +160,8 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units) {
     lu_ftran(s.lu, s.tau, false);
 
     const double primal_step = (s.x[leaving] - bound) / pivot;
+    s.step_last = primal_step;
+    s.pivot_last = pivot;
     s.x[q] += primal_step;
     for (int t = 0; t < s.column.count; ++t) {
       const int p = s.column.index[t];

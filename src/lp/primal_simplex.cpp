@@ -97,6 +97,8 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       return kExitUnbounded;
     }
     const double delta = direction * step.step;
+    s.step_last = step.step;
+    s.pivot_last = step.flip ? 0.0 : s.column.value[step.position];
     if (step.flip) {
       s.x[q] += delta;
       move_basics(s, delta);

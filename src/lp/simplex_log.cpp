@@ -53,8 +53,7 @@ void write_log_record(SimplexState& s, const SimplexSettings& settings, Units& u
                   s.pivot_last, static_cast<long long>(s.ninf), sinf_or_obj,
                   static_cast<long long>(s.lu_report.length_l), static_cast<long long>(s.lu_report.length_u),
                   0LL, static_cast<long long>(s.counters.regobj_calls), 0LL,
-                  static_cast<long long>(s.superbasic_count), 0LL, 0LL, cond, std::string_view("F"),
-                  std::string_view("F"), std::string_view("F"), std::string_view("F")});
+                  static_cast<long long>(s.superbasic_count), 0LL, 0LL, cond, 0LL, 0LL, 0LL, 0LL});
   } else if (s.nnobj > 0) {
     write_record(units, unit, "(1p,i7,e9.1,i6,e10.3,e16.8,i7,i6,i5,e8.1)",
                  {itn, s.dj_last, static_cast<long long>(s.ninf), s.sinf, objective, lu_size,
@@ -76,6 +75,7 @@ void log_iteration(SimplexState& s, const SimplexSettings& settings, Units& unit
   const bool to_summary =
       settings.summary_unit > 0 && settings.summary_frequency > 0 && itn % settings.summary_frequency == 0;
   if (!to_print && !to_summary) return;
+  measure_infeasibility(s, settings.feasibility_tol);
   if (!s.log_header_written) {
     if (settings.print_unit > 0) write_log_header(s, settings, units, settings.print_unit);
     if (settings.summary_unit > 0) write_log_header(s, settings, units, settings.summary_unit);
