@@ -48,8 +48,9 @@ TEST_P(SimplexExit, WritesItsMessageToPrintAndSummaryUnits) {
   if (ec.inform == 2) lp.row_up[0] = kFree;
   if (ec.inform == 3) h.options.ival[kIterationLimit] = 0;
   load_slot(lp, h.slot);
-  const std::string print = testing::TempDir() + "simplex_exit_print.txt";
-  const std::string summary = testing::TempDir() + "simplex_exit_summary.txt";
+  // One file pair per case: ctest runs the cases in parallel.
+  const std::string print = testing::TempDir() + "simplex_exit_print_" + ec.name + ".txt";
+  const std::string summary = testing::TempDir() + "simplex_exit_summary_" + ec.name + ".txt";
   ASSERT_TRUE(open_unit(h.units, 31, print, OpenStatus::unknown));
   ASSERT_TRUE(open_unit(h.units, 32, summary, OpenStatus::unknown));
   h.options.ival[kPrintFile] = 31;
