@@ -95,9 +95,9 @@ int factorize_basis(SimplexState& s, const SimplexSettings& settings, Units& uni
                                        s.value.data(), s.head.data(), s.lu_settings, s.lu_report);
   ++s.counters.factorizations;
   write_factor_events(s.lu_report, s.lu_settings.factor_tol, s.m, settings, units);
-  if (status == LuStatus::out_of_storage) {
+  if (status == LuStatus::out_of_storage || status == LuStatus::invalid_input) {
     s.factors_valid = false;
-    return kExitFactorStorage;
+    return status == LuStatus::out_of_storage ? kExitFactorStorage : kExitBasisError;
   }
   if (status == LuStatus::singular_repaired) {
     ++s.counters.singular_repairs;

@@ -64,13 +64,22 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
     s.work_row[i] = s.m;
     s.slot_row[s.m++] = i;
   }
+  // Entries repeated within a column add up (the factorization takes each row once).
+  int* last = s.candidate.data();  // position of each row's entry in the current column
+  std::fill(last, last + s.m, -1);
   int ne = 0;
   for (int j = 0; j < s.n; ++j) {
     s.col_start[j] = ne;
     for (int k = slot.ka[j + 1]; k < slot.ka[j + 2]; ++k) {
       const int i = slot.ha[k];
       if (i == iobj || i < 1 || i > slot.m || slot.a[k] == 0.0) continue;
-      s.row_index[ne] = s.work_row[i];
+      const int r = s.work_row[i];
+      if (last[r] >= s.col_start[j]) {
+        s.value[last[r]] += slot.a[k];
+        continue;
+      }
+      last[r] = ne;
+      s.row_index[ne] = r;
       s.value[ne++] = slot.a[k];
     }
   }

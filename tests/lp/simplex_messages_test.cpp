@@ -127,6 +127,28 @@ TEST(SimplexEntry, IterationLogHasHeaderAndOneRecordPerFrequency) {
   EXPECT_EQ(records, h.state.counters.iterations);
 }
 
+// A column that names one row twice means the sum of the two values.
+TEST(SimplexEntry, RepeatedEntriesOfAColumnAddUp) {
+  Harness whole, split;
+  load_slot(small_lp(), whole.slot);
+  ASSERT_EQ(whole.solve("cold"), 0);
+  DenseLp lp = small_lp();
+  lp.a[0][1] = 0.25;  // column 2 in row 1 holds 0.25 + 0.75
+  load_slot(lp, split.slot);
+  ProblemSlot& s = split.slot;
+  const int at = s.ka[3];
+  for (int k = s.ne; k >= at; --k) {
+    s.a[k + 1] = s.a[k];
+    s.ha[k + 1] = s.ha[k];
+  }
+  s.ha[at] = 2;
+  s.a[at] = 0.75;
+  ++s.ka[3];
+  ++s.ne;
+  ASSERT_EQ(split.solve("cold"), 0);
+  EXPECT_NEAR(split.slot.obj, whole.slot.obj, 1e-12);
+}
+
 TEST(SimplexEntry, StatusWordsShowErrorsAboveFiveAsFive) {
   EXPECT_EQ(solve_status_word(0), "PROCEEDING  ");
   EXPECT_EQ(solve_status_word(1), "OPTIMAL SOLN");
