@@ -45,7 +45,7 @@ TEST(RunFiles, MissingOptionsFileStopsBeforeTheModel) {
   const ProgramRun run = run_program(TARVO_BINARY, dir, "");
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(read_file(dir / "MODEL.ERR"),
-            " ERROR: SPECS file SIMPLEX.SPC not found\nERROR: could not initialize optimizer\n");
+            " ERROR: SPECS file SIMPLEX.SPC not found\n ERROR: could not initialize optimizer\n");
   EXPECT_TRUE(contains(run.console, " ERROR exit\n")) << run.console;
   EXPECT_FALSE(contains(run.console, "ERROR Exit"));
   EXPECT_TRUE(contains(read_file(dir / "MODEL.SCR"), " parameters: "));
