@@ -16,6 +16,9 @@ struct RunClock {
 // Elapsed time since the process started, in hundredths of a second (milliseconds / 10).
 long long clock_read();
 
+// now - previous, with one day added when the difference is negative (a reading that wrapped).
+long long clock_difference(long long previous, long long now);
+
 // Sets the previous reading to now and zeroes every accumulator.
 void clock_start(RunClock& clock);
 

@@ -2,12 +2,16 @@
 // Free-form lines, written and read.
 //
 // Output: a line begins with one blank; text items stand as they are, one after the other; an
-// integer is one blank and its digits; a real is one blank, a sign place (blank or minus) and the
-// value with 9 significant digits in the shorter of plain and exponent form (".5", "3.", "0.",
-// "1.5E-07"). Every write ends its line.
+// integer is one blank and its digits, a negative one with its minus sign (" 7", " -7"); a real
+// is one blank, a sign place (blank or minus) and the value with 9 significant digits in the shorter of plain and exponent form, the plain one when both are as long (".5",
+// "3.", "0.", "123456789.", "1.E+05", "1.5E-07"; the exponent has at least two digits). Zero and
+// negative zero print "0." with a blank sign place; NaN prints "NaN", infinities "Infinity" after
+// their sign place. Every write ends its line.
 //
-// Input: items separated by blanks or commas, text bare or quoted, numbers in integer, fixed or
-// exponent (E or D) form; "r*value" repeats, a slash ends the record.
+// Input: items separated by blanks (or tabs) or commas, text bare or quoted ('it''s' is it's),
+// numbers in integer, fixed or exponent (E or D) form; "r*value" repeats, "r*" alone gives r null
+// items, a slash outside quotes ends the record. A comma at the start of a line or right after
+// another comma stands for a null item; a comma at the end of a line adds none.
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -58,10 +62,13 @@ struct FreeItem {
 };
 
 // Splits one line into items. `ended` is set when a slash ended the record. Returns false for a
-// malformed line (an unterminated quote, a bad repeat count).
+// malformed line: an unterminated quote, text glued to a closing quote, a repeat count of 0 or
+// above 100000.
 bool split_free_items(std::string_view line, std::vector<FreeItem>& items, bool& ended);
 
-// Number items: integer, fixed or exponent form with E or D; false when the text is no number.
+// Number items: integer, fixed or exponent form with E, e, D or d, or a bare signed exponent
+// ("1.5+3"); false when the text is no number or overflows (values below the smallest denormal
+// read as zero). Integers take no point or exponent and must fit in long long.
 bool parse_free_real(std::string_view text, double& value);
 bool parse_free_integer(std::string_view text, long long& value);
 

@@ -1,0 +1,59 @@
+#include "driver/run.h"
+
+#include <iostream>
+#include <memory>
+#include <string>
+
+#include "common/free_format.h"
+#include "driver/banner.h"
+#include "driver/exit_routine.h"
+#include "driver/mode_line.h"
+#include "driver/run_params_reader.h"
+#include "driver/run_state.h"
+#include "driver/timing_report.h"
+
+namespace tarvo::driver {
+namespace {
+
+void open_run_files(RunState& run) {
+  Units& u = run.units;
+  open_unit(u, kSolutionUnit, "MODEL.SOL", OpenStatus::unknown);
+  write_short_banner(u, kSolutionUnit);
+  open_unit(u, kErrorUnit, "MODEL.ERR", OpenStatus::unknown);
+}
+
+void open_screen_log(RunState& run) {
+  const int unit = run.params.iscratch;
+  if (unit != kConsoleUnit) open_unit(run.units, unit, "MODEL.SCR", OpenStatus::unknown);
+  write_long_banner(run.units, unit);
+  echo_run_params(run.units, unit, run.params);
+}
+
+// Ends a run that got through every phase: timing report, then the normal exit.
+void finish_run(RunState& run) {
+  clock_interval(run.clock, nullptr);
+  write_timing_report(run);
+  close_unit(run.units, kSolutionUnit);
+  close_unit(run.units, kErrorUnit);
+  error_exit(run, 0);
+}
+
+}  // namespace
+
+int run_tarvo() {
+  auto run = std::make_unique<RunState>();
+  clock_start(run->clock);
+  write_long_banner(run->units, kConsoleUnit);
+  open_run_files(*run);
+  if (!read_run_params(run->units, run->params)) {
+    write_line(run->units, kErrorUnit, "error in file MODEL.INP");
+    error_exit(*run, 1);
+    return 0;
+  }
+  open_screen_log(*run);
+  run->evaluation_run = read_mode_line(std::cin);
+  finish_run(*run);
+  return 0;
+}
+
+}  // namespace tarvo::driver

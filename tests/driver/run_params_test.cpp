@@ -1,0 +1,115 @@
+// The run parameters as a user sees them: MODEL.INP in, the echo in the screen log out.
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+
+#include "driver/mode_line.h"
+#include "run_in_dir.h"
+
+namespace tarvo::testing {
+namespace {
+
+struct InpCase {
+  const char* name;
+  const char* inp;  // nullptr: no MODEL.INP at all
+  const char* expected_echo_lines;  // lines that must stand in the echo, '\n'-separated
+};
+
+std::string model_inp_echo(const char* inp, std::string& err, std::string& console) {
+  const fs::path dir = fresh_directory("inp");
+  if (inp) write_file(dir / "MODEL.INP", inp);
+  const ProgramRun run = run_program(TARVO_BINARY, dir, "");
+  EXPECT_EQ(run.status, 0);
+  console = run.console;
+  err = read_file(dir / "MODEL.ERR");
+  const std::string log = read_file(dir / "MODEL.SCR");
+  fs::remove_all(dir);
+  return log;
+}
+
+TEST(RunParams, ModelInpIsReadAndEchoed) {
+  const std::string defaults =
+      " istrat    =  3\n nsamples  =  100\n nzrows    =  100\n maxit     =  1000\n"
+      " iwrite    =  0\n ibug      =  0\n iscratch  =  17\n iresamp   =  1\n igms      =  0\n"
+      " ireg      =  0\n rho       =   1000.\n tolben    =   1.E-07\n tolw      =   1.E-09\n"
+      " iappr     =  1\n maxtime   =   345600.\n iseed     =  12933428\n";
+  const InpCase cases[] = {
+      {"missing file", nullptr, defaults.c_str()},
+      {"empty file", "", defaults.c_str()},
+      {"the documented example", "3 istrat\n500 NSAMPLES\n1.0d-6 tolben\n2.5 maxit\n",
+       " istrat    =  3\n nsamples  =  500\n maxit     =  2\n tolben    =   1.E-06\n"},
+      {"rho kept above its floor", ".5 rho\n", " rho       =   .5\n"},
+      {"rho of zero raised", "0 rho\n", " rho       =   1.E-06\n"},
+      {"negative rho raised", "-3 RHO\n", " rho       =   1.E-06\n"},
+      {"truncation toward zero", "3.99 istrat\n-2.9 ibug\n", " istrat    =  3\n ibug      =  -2\n"},
+      {"keyword cut to eight characters", "7 nsamplesx\n", " nsamples  =  7\n"},
+      {"mixed case matches nothing", "9 Istrat\n", " istrat    =  3\n"},
+      {"quoted keyword and comma", "4,'maxit'\n6, \"NZROWS\"\n", " maxit     =  4\n nzrows    =  6\n"},
+      {"record continues on the next line", "5\n\n  istrat  trailing words\n",
+       " istrat    =  5\n"},
+      {"last value of a repeated keyword", "2 istrat\n4 istrat\n", " istrat    =  4\n"},
+      {"negative values taken as they stand", "-5 nsamples\n13 istrat\n",
+       " nsamples  =  -5\n istrat    =  13\n"},
+      {"half record at end of file", "11 iseed\n8\n", " iseed     =  11\n istrat    =  3\n"},
+      {"unknown keyword ignored", "3 foo\n7 maxit\n", " maxit     =  7\n"},
+      {"huge real for a real parameter", "1e30 maxtime\n", " maxtime   =   1.E+30\n"},
+  };
+  for (const InpCase& c : cases) {
+    SCOPED_TRACE(c.name);
+    std::string err, console;
+    const std::string log = model_inp_echo(c.inp, err, console);
+    EXPECT_TRUE(contains(log, " parameters: \n \n istrat    = ")) << log;
+    std::istringstream wanted(c.expected_echo_lines);
+    for (std::string line; std::getline(wanted, line);) {
+      EXPECT_TRUE(contains(log, line + "\n")) << "missing: [" << line << "]\n" << log;
+    }
+    EXPECT_TRUE(err.empty()) << err;
+  }
+}
+
+TEST(RunParams, OnlyTheFirstThousandRecordsAreRead) {
+  std::string inp;
+  for (int i = 1; i < 1000; ++i) inp += "1 iwrite\n";
+  inp += "8 istrat\n9 istrat\n";
+  std::string err, console;
+  const std::string log = model_inp_echo(inp.c_str(), err, console);
+  EXPECT_TRUE(contains(log, " istrat    =  8\n")) << log;
+}
+
+TEST(RunParams, FaultyRecordsEndTheRunBeforeTheEcho) {
+  const char* faulty[] = {
+      "abc istrat\n",           // a word where the number must stand
+      "3 istrat\nfive maxit\n", // a later faulty record
+      "'3' istrat\n",           // quoted text is no number
+      "\x01\x02\xff\xfe istrat\n",
+      "1e30 istrat\n",          // beyond any 32-bit integer
+      "1.5.5 maxit\n",
+  };
+  for (const char* inp : faulty) {
+    SCOPED_TRACE(inp);
+    std::string err, console;
+    const std::string log = model_inp_echo(inp, err, console);
+    EXPECT_EQ(err, "error in file MODEL.INP\n");
+    EXPECT_FALSE(contains(log, "parameters:"));
+    EXPECT_TRUE(contains(console, "\n \n ERROR Exit\n")) << console;
+  }
+}
+
+TEST(RunParams, ModeLineSelectsEvaluationOnlyWhenSpelledExactly) {
+  const struct {
+    const char* input;
+    bool evaluation;
+  } cases[] = {
+      {"eval\n", true},   {"EVAL\n", true},   {"eval", true},     {"eval   \n", true},
+      {"eval\r\n", true}, {"Eval\n", false},  {" eval\n", false}, {"evaluate\n", false},
+      {"", false},        {"\n", false},      {"eval        x\n", true},
+  };
+  for (const auto& c : cases) {
+    std::istringstream in(c.input);
+    EXPECT_EQ(driver::read_mode_line(in), c.evaluation) << "[" << c.input << "]";
+  }
+}
+
+}  // namespace
+}  // namespace tarvo::testing

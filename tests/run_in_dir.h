@@ -1,0 +1,67 @@
+#pragma once
+// Helpers for tests that run a built TARVO program in a fresh working directory.
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+#include <string>
+
+namespace tarvo::testing {
+
+namespace fs = std::filesystem;
+
+inline fs::path fresh_directory(const std::string& tag) {
+  static std::mt19937_64 rng(std::random_device{}());
+  fs::path dir = fs::temp_directory_path() / ("tarvo-" + tag + "-" + std::to_string(rng()));
+  fs::create_directories(dir);
+  return dir;
+}
+
+inline void write_file(const fs::path& path, const std::string& text) {
+  std::ofstream out(path, std::ios::binary);
+  out << text;
+}
+
+inline std::string read_file(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream buffer;
+  buffer << in.rdbuf();
+  return buffer.str();
+}
+
+inline void copy_example(const std::string& name, const fs::path& dir) {
+  const fs::path source = fs::path(TARVO_SOURCE_DIR) / "examples" / name;
+  for (const auto& entry : fs::directory_iterator(source)) {
+    const std::string file = entry.path().filename().string();
+    if (file.rfind("MODEL.", 0) == 0 || file == "SIMPLEX.SPC") {
+      fs::copy_file(entry.path(), dir / file, fs::copy_options::overwrite_existing);
+    }
+  }
+}
+
+struct ProgramRun {
+  int status = -1;
+  std::string console;
+};
+
+// Runs `program` in `dir` with `input` on standard input; returns the exit status and console.
+inline ProgramRun run_program(const std::string& program, const fs::path& dir,
+                              const std::string& input, const std::string& arguments = "") {
+  write_file(dir / ".stdin", input);
+  const std::string command = "cd '" + dir.string() + "' && '" + program + "' " + arguments +
+                              " < .stdin > .console 2>&1";
+  ProgramRun run;
+  const int raw = std::system(command.c_str());
+  run.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+  run.console = read_file(dir / ".console");
+  fs::remove(dir / ".stdin");
+  fs::remove(dir / ".console");
+  return run;
+}
+
+inline bool contains(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+}  // namespace tarvo::testing
