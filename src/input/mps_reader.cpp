@@ -16,6 +16,7 @@ void prepare(ReadState& state) {
   slot.iobj = 1;
   slot.objadd = 0.0;
   slot.loaded = false;
+  slot.problem_name = lp::Name8{};
   const std::size_t rows = static_cast<std::size_t>(std::max(slot.mmax, 0)) + 1;
   state.row_names.assign(rows, lp::Name8{});
   state.row_type.assign(rows, lp::kRowN);

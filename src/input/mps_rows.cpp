@@ -146,6 +146,7 @@ void read_name_card(ReadState& state) {
     if (state.line.comment) continue;
     if (card_is(state, "NAME")) {
       state.result.names.problem = state.line.name2();
+      state.slot.problem_name = state.result.names.problem;
       report_problem_name(state);
       skip_to_card(state);
       return;
