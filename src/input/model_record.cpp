@@ -12,6 +12,7 @@ namespace {
 constexpr std::size_t kRecordColumns = 80;
 
 void echo_record(const ModelRecord& r, Units& units, int echo_unit) {
+  if (!unit_open(units, echo_unit)) return;
   const lp::Name8 n1 = r.name1();
   const lp::Name8 n2 = r.name2();
   const lp::Name8 n3 = r.name3();
@@ -27,7 +28,7 @@ bool next_model_record(LineReader& reader, ModelRecord& record, Units& units, in
   std::string raw;
   while (next_line(reader, raw)) {
     if (!raw.empty() && raw[0] == '*') {
-      write_if_open(units, echo_unit, raw);
+      write_if_open(units, echo_unit, raw);  // a comment is echoed as it stands
       continue;
     }
     record.line_number = reader.line_number;

@@ -49,6 +49,11 @@ inline lp::ProblemSlot make_slot(int rows = 3000, int columns = 10000, int eleme
 
 // Everything the model input produces for one example.
 struct Model {
+  Model() = default;
+  Model(int rows, int columns, int elements)
+      : core(make_slot(rows, columns, elements)),
+        master(make_slot(rows, columns, elements)),
+        sub(make_slot(rows, columns, elements)) {}
   Units units;
   lp::ProblemSlot core = make_slot();
   lp::ProblemSlot master = make_slot();
@@ -112,8 +117,9 @@ struct TempDir {
     std::filesystem::remove_all(path, ignored);
   }
   std::string file(const std::string& name) const { return (path / name).string(); }
-  void write(const std::string& name, const std::string& text) const {
-    std::ofstream(file(name), std::ios::binary) << text;
+  void write(const std::string& name, const std::string& text) const { write_to(file(name), text); }
+  static void write_to(const std::string& file, const std::string& text) {
+    std::ofstream(file, std::ios::binary) << text;
   }
 };
 
