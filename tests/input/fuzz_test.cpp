@@ -139,6 +139,7 @@ TEST(Fuzz, RegressionsReplay) {
   const std::filesystem::path root = std::string(TARVO_SOURCE_DIR) + "/tests/data/fuzz-regressions";
   if (!std::filesystem::exists(root)) GTEST_SKIP() << "no regression cases";
   for (const auto& entry : std::filesystem::directory_iterator(root)) {
+    if (!entry.is_directory()) continue;
     SCOPED_TRACE(entry.path().string());
     TempDir dir("replay");
     for (const char* file : {"MODEL.COR", "MODEL.TIM", "MODEL.STO"}) {
