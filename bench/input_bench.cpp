@@ -7,7 +7,7 @@
 #include <string>
 
 #include "input/decompose.h"
-#include "input/mps_reader.h"
+#include "input/core_file.h"
 #include "input/stoch_file.h"
 #include "input/time_file.h"
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "common/line_reader.h"
+#include "input/messages.h"
 #include "input/mps_reader.h"
 #include "input/name_hash.h"
 #include "input/name_lookup.h"

@@ -1,6 +1,10 @@
 // Seeded random mutations of the example files: whatever the bytes, reading never crashes or
-// hangs, and what reads successfully is consistent. A failing case is left in fuzz-current/ of
-// the working directory; keep it under tests/data/fuzz-regressions/, where the replay test runs it.
+// hangs, and what reads successfully is consistent. The case being run is written to
+// tarvo-fuzz-<pid> in /dev/shm (or the temporary directory), where a crash leaves it; a case that
+// fails a check is copied to fuzz-failures/ of the working directory. Keep such cases under
+// tests/data/fuzz-regressions/, where the replay test runs them.
+#include <unistd.h>
+
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -105,8 +109,22 @@ bool run_case(const std::string& dir, const Capacity& capacity = {}) {
   return std::chrono::steady_clock::now() - start < std::chrono::seconds(2);
 }
 
+// Memory-backed when possible: the fuzz writes three files per case.
+std::filesystem::path case_directory() {
+  const std::filesystem::path shm = "/dev/shm";
+  const std::filesystem::path base = std::filesystem::is_directory(shm) ? shm : std::filesystem::temp_directory_path();
+  return base / ("tarvo-fuzz-" + std::to_string(getpid()));
+}
+
+void keep_failed_case(const std::string& dir, int round, const char* problem) {
+  const std::filesystem::path kept = std::filesystem::absolute("fuzz-failures") / (std::string(problem) + "-" + std::to_string(round));
+  std::filesystem::create_directories(kept);
+  std::filesystem::copy(dir, kept, std::filesystem::copy_options::overwrite_existing);
+  ADD_FAILURE() << "failed case kept in " << kept.string();
+}
+
 TEST(Fuzz, MutatedExamplesNeverCrash) {
-  const std::string dir = std::filesystem::absolute("fuzz-current").string();
+  const std::string dir = case_directory().string();
   std::filesystem::create_directories(dir);
   std::mt19937 rng(20261123);
   const char* files[] = {"MODEL.COR", "MODEL.TIM", "MODEL.STO"};
@@ -126,8 +144,8 @@ TEST(Fuzz, MutatedExamplesNeverCrash) {
       // Every fourth case runs with slots near the examples' sizes, so that capacities overflow.
       Capacity capacity;
       if (round % 4 == 3) capacity = {5 + int(rng() % 100), 5 + int(rng() % 120), 20 + int(rng() % 450)};
-      ASSERT_TRUE(run_case(dir, capacity)) << "slow case left in " << dir;
-      if (::testing::Test::HasFatalFailure()) FAIL() << "case left in " << dir;
+      const bool quick = run_case(dir, capacity);
+      if (!quick || ::testing::Test::HasFailure()) return keep_failed_case(dir, round, problem);
       ++cases;
     }
   }

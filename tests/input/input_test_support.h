@@ -10,7 +10,7 @@
 #include "common/units.h"
 #include "input/decompose.h"
 #include "input/model.h"
-#include "input/mps_reader.h"
+#include "input/core_file.h"
 #include "input/stoch_file.h"
 #include "input/time_file.h"
 #include "lp/options.h"

@@ -67,6 +67,29 @@ TEST(Listing, MessagesStopAtTheLimitButAllErrorsCount) {
   EXPECT_NE(listing.find(" EXIT -- fatal errors in the MPS file"), std::string::npos);
 }
 
+TEST(Listing, CapacityOverflowsAreStorageFailures) {
+  struct Case {
+    int rows, columns, elements;
+    const char* message;
+  };
+  const Case cases[] = {{5, 20, 100, " XXXX  Too many rows.  Limit was       5  Actual number is      10"},
+                        {20, 5, 100, " XXXX  Too many columns.   The limit was       5  Actual number is      16"},
+                        {20, 20, 10, " XXXX  Too many elements.  The limit was      10  Actual number is      52"}};
+  for (const Case& c : cases) {
+    TempDir dir("capacity");
+    Units units;
+    open_unit(units, 23, dir.file("print"), OpenStatus::unknown);
+    lp::ProblemSlot slot = make_slot(c.rows, c.columns, c.elements);
+    const MpsReadResult read = read_mps_file(slot, default_options(), units, example_file("lands3", "MODEL.COR"),
+                                             kCorUnit, 23, 0);
+    close_unit(units, 23);
+    EXPECT_EQ(read.status, InputStatus::storage);
+    const std::string listing = read_text(dir.file("print"));
+    EXPECT_NE(listing.find(std::string(c.message) + "\n EXIT -- not enough storage to read the MPS file"),
+              std::string::npos) << listing;
+  }
+}
+
 TEST(Listing, PrescanListsRecordsAndParameters) {
   TempDir dir("spr");
   Units units;

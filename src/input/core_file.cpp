@@ -1,11 +1,15 @@
-// The decomposition's demand on a read core problem: the read succeeded and row 1 is the free
-// objective row.
+#include "input/core_file.h"
+
 #include "common/free_format.h"
-#include "input/mps_reader.h"
+#include "input/mps_writer.h"
 
 namespace tarvo::input {
 
 namespace {
+
+constexpr int kCoreUnit = 24;
+constexpr int kDumpUnit = 27;
+constexpr int kDumpLevel = 6;
 
 void report_read_failure(Units& units, const MessageUnits& to, const std::string& file_name) {
   write_run_message(units, to, free_line("ERROR: reading MPS file ", file_name));
@@ -36,6 +40,18 @@ InputStatus check_core_problem(lp::ProblemSlot& slot, int slot_number, const Mps
   }
   slot.loaded = true;
   return InputStatus::ok;
+}
+
+InputStatus read_core_problem(lp::ProblemSlot& core, const lp::Options& options, Units& units,
+                              int print_unit, int summary_unit, const MessageUnits& to,
+                              int iwrite, MpsReadResult& read) {
+  const std::string file_name = "MODEL.COR";
+  read = read_mps_file(core, options, units, file_name, kCoreUnit, print_unit, summary_unit);
+  const InputStatus status = check_core_problem(core, lp::kCoreSlot, read, file_name, units, to);
+  if (!failed(status) && iwrite >= kDumpLevel) {
+    dump_problem(core, lp::kCoreSlot, read.names, units, "MODEL.P00", kDumpUnit);
+  }
+  return status;
 }
 
 }  // namespace tarvo::input
