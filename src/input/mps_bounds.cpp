@@ -21,12 +21,23 @@ BoundType bound_type_of(std::string_view key) {
 }
 
 bool takes_value(BoundType type) {
-  return type == BoundType::up || type == BoundType::lo || type == BoundType::fx ||
-         type == BoundType::li || type == BoundType::ui;
+  switch (type) {
+    case BoundType::up:
+    case BoundType::lo:
+    case BoundType::fx:
+    case BoundType::li:
+    case BoundType::ui: return true;
+    default: return false;
+  }
 }
 
 bool marks_integer(BoundType type) {
-  return type == BoundType::bv || type == BoundType::li || type == BoundType::ui;
+  switch (type) {
+    case BoundType::bv:
+    case BoundType::li:
+    case BoundType::ui: return true;
+    default: return false;
+  }
 }
 
 void report_initial(ReadState& state) {
@@ -46,10 +57,7 @@ void report_illegal_bound_type(ReadState& state) {
 }
 
 void report_unknown_column(ReadState& state, const lp::Name8& name) {
-  if (!count_fault(state, kUnknownColumn)) return;
-  line_message(state, laid_out("(a, a, a, i7)", {" XXXX  Non-existent column specified -- ",
-                                                 lp::name_view(name),
-                                                 " -- entry ignored in line", state.line.number}));
+  report_unknown_name(state, kUnknownColumn, " XXXX  Non-existent column specified -- ", name);
 }
 
 // MI leaves a finite upper bound alone but turns an infinite one into 0.

@@ -36,17 +36,11 @@ void report_empty_column(ReadState& state, const ColumnInProgress& column) {
 }
 
 void report_too_many_columns(ReadState& state) {
-  ++state.result.errors;
-  section_message(state, laid_out("(a, i8, a, i8)", {" XXXX  Too many columns.   The limit was",
-                                                     state.slot.nmax, "  Actual number is",
-                                                     state.columns}));
+  report_over_capacity(state, " XXXX  Too many columns.   The limit was", state.slot.nmax, state.columns);
 }
 
 void report_too_many_elements(ReadState& state) {
-  ++state.result.errors;
-  section_message(state, laid_out("(a, i8, a, i8)", {" XXXX  Too many elements.  The limit was",
-                                                     state.slot.nemax, "  Actual number is",
-                                                     state.elements}));
+  report_over_capacity(state, " XXXX  Too many elements.  The limit was", state.slot.nemax, state.elements);
 }
 
 void report_column_counts(ReadState& state) {

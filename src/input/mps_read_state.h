@@ -114,6 +114,9 @@ void section_message(ReadState& state, std::string_view text);
 void line_message(ReadState& state, std::string_view text);
 bool count_fault(ReadState& state, LineFault fault);  // counts; true while messages may print
 void report_unknown_row(ReadState& state, const lp::Name8& name);
+void report_unknown_name(ReadState& state, LineFault fault, std::string_view what, const lp::Name8& name);
+// " XXXX  Too many ...  Limit was <limit>  Actual number is <actual>"; counted.
+void report_over_capacity(ReadState& state, std::string_view what, int limit, int actual);
 
 // Sections.
 void read_name_card(ReadState& state);

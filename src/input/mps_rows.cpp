@@ -80,10 +80,7 @@ void report_objective_out_of_place(ReadState& state) {
 }
 
 void report_too_many_rows(ReadState& state) {
-  ++state.result.errors;
-  section_message(state, laid_out("(a, i8, a, i8)", {" XXXX  Too many rows.  Limit was",
-                                                     state.slot.mmax, "  Actual number is",
-                                                     state.rows}));
+  report_over_capacity(state, " XXXX  Too many rows.  Limit was", state.slot.mmax, state.rows);
 }
 
 void report_no_objective(ReadState& state) {

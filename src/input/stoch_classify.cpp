@@ -33,11 +33,16 @@ Classification invalid_bound_type(Units& units, const MessageUnits& to, std::str
   return kError;
 }
 
+// "<what>col/row = <column> / <row>"
+Classification master_entry(Units& units, const MessageUnits& to, std::string_view what,
+                            const lp::Name8& column, const lp::Name8& row) {
+  say(units, to, free_line(what, "col/row = ", lp::name_view(column), " / ", lp::name_view(row)));
+  return kError;
+}
+
 Classification value_in_master_row(Units& units, const MessageUnits& to, const lp::Name8& column,
                                    const lp::Name8& row) {
-  say(units, to, free_line("ERROR in .sto: stochastic value in master row. ", "col/row = ",
-                           lp::name_view(column), " / ", lp::name_view(row)));
-  return kError;
+  return master_entry(units, to, "ERROR in .sto: stochastic value in master row. ", column, row);
 }
 
 Classification rhs_for_objective(Units& units, const MessageUnits& to, const lp::Name8& row) {
@@ -47,9 +52,7 @@ Classification rhs_for_objective(Units& units, const MessageUnits& to, const lp:
 
 Classification objective_in_master(Units& units, const MessageUnits& to, const lp::Name8& column,
                                    const lp::Name8& row) {
-  say(units, to, free_line("ERROR in .sto: stochastic obj in master col. ", "col/row = ",
-                           lp::name_view(column), " / ", lp::name_view(row)));
-  return kError;
+  return master_entry(units, to, "ERROR in .sto: stochastic obj in master col. ", column, row);
 }
 
 // A random element that is not stored: a zero is nothing to change, anything else an error.

@@ -75,6 +75,16 @@ bool count_blocks_line(Prescan& scan, const ModelRecord& record) {
   return true;
 }
 
+// False for a data line outside any section or an entry before the first BL line.
+bool count_data_line(Prescan& scan, const ModelRecord& record) {
+  switch (scan.section) {
+    case StochSection::indep: count_indep_line(scan, record); return true;
+    case StochSection::blocks: return count_blocks_line(scan, record);
+    case StochSection::none: return false;
+  }
+  return false;
+}
+
 // Handles a section card; the result is ok to go on, or the failure (messages written).
 InputStatus open_section(Prescan& scan, const ModelRecord& record, const MessageUnits& to) {
   const StochCard card = stoch_card(record);
@@ -114,10 +124,7 @@ InputStatus scan_records(Prescan& scan, LineReader& reader, const MessageUnits& 
       if (failed(status)) return status;
       continue;
     }
-    const bool counted = scan.section == StochSection::indep    ? (count_indep_line(scan, record), true)
-                         : scan.section == StochSection::blocks ? count_blocks_line(scan, record)
-                                                                : false;
-    if (!counted) {
+    if (!count_data_line(scan, record)) {
       report_stoch_failure(scan.units, to);
       return InputStatus::bad_file;
     }

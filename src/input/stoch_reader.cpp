@@ -107,7 +107,7 @@ void read_indep_line(StochRead& r, const ModelRecord& record) {
     push_entry(r, c);
   }
   if (r.overflow) return;
-  push_value(r, record.value1) && push_probability(r, record.value2);
+  if (push_value(r, record.value1)) push_probability(r, record.value2);
 }
 
 // A BL line: a new block when the name changes; a later realization starts as a copy of the
@@ -144,7 +144,7 @@ void read_block_entry(StochRead& r, const ModelRecord& record) {
   OutcomeStore& s = r.store;
   const int k = s.count;
   if (s.nsoc[k] == 1) {
-    push_entry(r, c) && push_value(r, record.value1);
+    if (push_entry(r, c)) push_value(r, record.value1);
     return;
   }
   const int e = first_realization_match(s, k, c);
