@@ -50,9 +50,9 @@ ReaderSettings reader_settings(const lp::Options& options) {
     std::swap(settings.lower_default, settings.upper_default);
   }
   settings.nonlinear_constraints = std::max(int_option(options, lp::kNonlinearConstraints, 0), 0);
+  // The counts the options file gives, not those of the problem last solved.
   settings.nonlinear_variables = int_option(options, lp::kNonlinearObjectiveVars, 0) > 0 ||
-                                 int_option(options, lp::kNonlinearJacobianVars, 0) > 0 ||
-                                 options.nonlinear_variables > 0;
+                                 int_option(options, lp::kNonlinearJacobianVars, 0) > 0;
   settings.maximize = int_option(options, lp::kObjectiveSense, 1) == -1;
   settings.objective = options.objective_name;
   settings.rhs = options.rhs_name;
