@@ -103,5 +103,20 @@ TEST(Listing, PrescanListsRecordsAndParameters) {
   EXPECT_EQ(count(spr, "\n"), listed_lines(example_file("lands-1e6", "MODEL.STO"), 1 << 30) + store.jele);
 }
 
+// Options as the options file leaves them before any solve: most still unset.
+TEST(Listing, OptionsAsTheSpecsFileLeavesThem) {
+  Units units;
+  lp::Options options;
+  ASSERT_TRUE(open_unit(units, 4, example_file("chem", "SIMPLEX.SPC"), OpenStatus::old_file));
+  ASSERT_EQ(lp::read_specs(options, units, 4, 0, 0, 240000), lp::kOptionsRead);
+  close_unit(units, 4);
+  options.rval[lp::kLowerBoundDefault] = 2.0;
+  lp::ProblemSlot slot = make_slot();
+  const MpsReadResult read = read_mps_file(slot, options, units, example_file("chem", "MODEL.COR"), kCorUnit, 0, 0);
+  ASSERT_EQ(read.status, InputStatus::ok);
+  EXPECT_EQ(slot.bl[1], 2.0);
+  EXPECT_EQ(slot.bu[1], lp::kInfiniteBound);
+}
+
 }  // namespace
 }  // namespace tarvo::input::testing
