@@ -104,7 +104,7 @@ TEST(Listing, PrescanListsRecordsAndParameters) {
 }
 
 // Options as the options file leaves them before any solve: most still unset.
-TEST(Listing, OptionsAsTheSpecsFileLeavesThem) {
+TEST(Listing, OptionsAsTheOptionsFileLeavesThem) {
   Units units;
   lp::Options options;
   ASSERT_TRUE(open_unit(units, 4, example_file("chem", "SIMPLEX.SPC"), OpenStatus::old_file));
