@@ -3,7 +3,6 @@
 // (time, pivots, whether the kept factors were reused).
 // Usage: lp_bench [SOURCE_DIR] [REPEATS]
 // Until the MPS reader of the input library is merged, the program only says so.
-#if __has_include("input/mps_reader.h")
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -147,11 +146,3 @@ int main(int argc, char** argv) {
   }
   return 0;
 }
-#else
-#include <cstdio>
-
-int main() {
-  std::fprintf(stderr, "lp_bench: built without the MPS reader\n");
-  return 3;
-}
-#endif

@@ -1,8 +1,6 @@
 // tarvo-lp FILE.mps: reads a fixed-column MPS file into a problem slot, solves it cold with the
 // simplex optimizer and prints the exit status, the objective (12 significant digits), the
 // iterations and the solve time.
-// Until the MPS reader of the input library is merged, the program only says so.
-#if __has_include("input/mps_reader.h")
 #include <chrono>
 #include <cstdio>
 #include <fstream>
@@ -99,11 +97,3 @@ int main(int argc, char** argv) {
   close_all_units(units);
   return 0;
 }
-#else
-#include <cstdio>
-
-int main() {
-  std::fprintf(stderr, "tarvo-lp: built without the MPS reader\n");
-  return 3;
-}
-#endif
