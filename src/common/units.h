@@ -14,6 +14,8 @@ namespace tarvo {
 
 inline constexpr int kStdinUnit = 5;
 inline constexpr int kConsoleUnit = 6;
+inline constexpr int kSolutionUnit = 16;  // MODEL.SOL
+inline constexpr int kErrorUnit = 48;     // MODEL.ERR
 
 enum class OpenStatus { old_file, unknown };
 

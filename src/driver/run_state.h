@@ -11,12 +11,10 @@ namespace tarvo::driver {
 
 // Fixed units of the run's files.
 inline constexpr int kBaseUnit = 15;  // run summary, fort.15
-inline constexpr int kSolutionUnit = 16;
 inline constexpr int kStatusUnit = 18;
 inline constexpr int kSprUnit = 7;
 inline constexpr int kStochUnit = 8;
 inline constexpr int kSolutionInputUnit = 35;
-inline constexpr int kErrorUnit = 48;
 
 struct RunState {
   Units units;
