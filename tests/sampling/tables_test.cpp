@@ -1,0 +1,97 @@
+// Universe and marginal tables, and the division of a sample among blocks.
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+#include "harness.h"
+#include "sampling/allocate.h"
+#include "sampling/sample_tables.h"
+
+namespace tarvo::sampling {
+namespace {
+
+TEST(Tables, UniverseIsTheLexicographicEnumeration) {
+  testing::Harness h;
+  h.params.istrat = 4;
+  h.store = testing::make_store({{0.5, 0.5}, {0.2, 0.3, 0.5}, {0.1, 0.9}});
+  Evaluation ev;
+  ASSERT_EQ(allocate_evaluation(ev, h.context()), kOk);
+  ASSERT_EQ(univtab(h.context(), ev), kOk);
+  ASSERT_EQ(ev.nsamples, 12);
+  int k = 0;
+  for (int a = 1; a <= 2; ++a)
+    for (int b = 1; b <= 3; ++b)
+      for (int c = 1; c <= 2; ++c) {
+        ++k;
+        EXPECT_EQ(table_entry(ev, k, 1), a);
+        EXPECT_EQ(table_entry(ev, k, 2), b);
+        EXPECT_EQ(table_entry(ev, k, 3), c);
+      }
+}
+
+TEST(Tables, UniverseBeyondTheTableIsRefused) {
+  testing::Harness h;
+  h.params.istrat = 6;  // the table is sized for the sample only
+  h.params.nsamples = 5;
+  h.store = testing::make_store({{0.5, 0.5}, {0.2, 0.3, 0.5}});
+  Evaluation ev;
+  ASSERT_EQ(allocate_evaluation(ev, h.context()), kOk);
+  EXPECT_EQ(univtab(h.context(), ev), kErrorExit);
+}
+
+TEST(Tables, MarginalRowsVaryOneBlockAroundTheBase) {
+  struct Case {
+    int mode;
+    int base_outcome_of_block2;  // base outcome of the 3-outcome block
+  };
+  for (const Case c : {Case{1, 1}, Case{2, 3}}) {
+    testing::Harness h;
+    h.store = testing::make_store({{0.5, 0.5}, {0.2, 0.3, 0.5}, {1.0}});
+    Evaluation ev;
+    ASSERT_EQ(allocate_evaluation(ev, h.context()), kOk);
+    margtab(h.context(), ev, c.mode);
+    ASSERT_EQ(ev.nmarg, 1 + 1 + 2 + 0);
+    EXPECT_EQ(table_entry(ev, 1, 2), c.base_outcome_of_block2);
+    for (int k = 2; k <= ev.nmarg; ++k) {
+      int differing = 0;
+      for (int b = 1; b <= 3; ++b) differing += table_entry(ev, k, b) != table_entry(ev, 1, b);
+      EXPECT_EQ(differing, 1) << "row " << k;
+    }
+    if (c.mode == 1) {
+      for (int b = 1; b <= 2; ++b)
+        for (int i = 2; i <= h.store.nsoc[b]; ++i)
+          EXPECT_EQ(table_entry(ev, marginal_row(h.store, b, i), b), i);
+    }
+  }
+}
+
+TEST(Allocate, LargestRemainders) {
+  struct Case {
+    std::vector<double> weights;
+    int N;
+    std::vector<int> counts;
+  };
+  const Case cases[] = {
+      {{1, 2, 3, 4}, 20, {2, 4, 6, 8}},   // exact quotas
+      {{1, 2, 3, 4}, 4, {1, 1, 1, 1}},    // N = n: no passes
+      {{1, 2, 3, 4}, 2, {1, 1, 1, 1}},    // N < n: one point each all the same
+      {{1, 1}, 3, {1, 2}},                // equal remainders: the last block wins
+      {{-3, 1}, 4, {3, 1}},               // the absolute weight counts
+      {{0, 0, 0}, 5, {1, 1, 3}},          // no weight: ties all the way
+      {{5, 0.001}, 10, {9, 1}},           // a negligible block keeps its one point
+      {{2, 1, 1}, 7, {3, 2, 2}},
+  };
+  for (const Case& c : cases) {
+    const int n = static_cast<int>(c.weights.size());
+    std::vector<double> w(1, 0.0);
+    w.insert(w.end(), c.weights.begin(), c.weights.end());
+    std::vector<int> counts(n + 1, 0);
+    std::vector<double> scratch(n + 1, 0.0);
+    allocate(w, c.N, n, counts, scratch);
+    EXPECT_EQ(std::vector<int>(counts.begin() + 1, counts.end()), c.counts) << "N " << c.N;
+    EXPECT_EQ(std::accumulate(counts.begin() + 1, counts.end(), 0), std::max(c.N, n));
+  }
+}
+
+}  // namespace
+}  // namespace tarvo::sampling
