@@ -2,9 +2,8 @@
 // Free-form lines, written and read.
 //
 // Output: a line begins with one blank; text items stand as they are, one after the other; an
-// integer is one blank and its digits, the minus sign of a negative one standing in that blank
-// (" 7", "-7"); a real is one blank, a sign place (blank or minus) and the value with 9 significant
-// digits in the shorter of plain and exponent form, the plain one when both are as long (".5",
+// integer is one blank and its digits, a negative one with its minus sign (" 7", " -7"); a real
+// is one blank, a sign place (blank or minus) and the value with 9 significant digits in the shorter of plain and exponent form, the plain one when both are as long (".5",
 // "3.", "0.", "123456789.", "1.E+05", "1.5E-07"; the exponent has at least two digits). Zero and
 // negative zero print "0." with a blank sign place; NaN prints "NaN", infinities "Infinity" after
 // their sign place. Every write ends its line.

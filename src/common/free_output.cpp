@@ -42,7 +42,7 @@ void append_free(std::string& line, std::string_view text) { line += text; }
 
 // The minus sign of a negative integer takes the place of its blank.
 void append_free(std::string& line, long long value) {
-  if (value >= 0) line += ' ';
+  line += ' ';
   line += std::to_string(value);
 }
 

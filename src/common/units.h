@@ -1,8 +1,10 @@
 #pragma once
 // Output and input files addressed by unit number, as every report of the run names them.
 // Unit 6 is the console; unit 5 is standard input; a unit <= 0 means "no file" and writes to it
-// are dropped; writing to any other unit that was never opened creates the file fort.<unit>
-// in the working directory (that is how the run summary reaches fort.15).
+// (and to unit 5) are dropped; writing to any other unit that was never opened creates the file
+// fort.<unit> in the working directory (that is how the run summary reaches fort.15). A file opened
+// on unit 5 or 6 stands in for standard input or the console until it is closed; the standard
+// streams themselves are never closed.
 #include <cstdio>
 #include <map>
 #include <string>
@@ -28,7 +30,8 @@ bool unit_is_open(const Units& units, int unit);
 // The stream of an opened unit (reading or writing), or nullptr.
 std::FILE* unit_stream(const Units& units, int unit);
 
-// Writes one line (a newline is added) to the unit.
+// Writes one line (a newline is added) to the unit. Write failures are ignored, as a report that
+// cannot be written must not end the run.
 void write_line(Units& units, int unit, std::string_view text);
 
 }  // namespace tarvo

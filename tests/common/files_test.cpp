@@ -7,7 +7,9 @@
 #include <sstream>
 
 #include "common/clock.h"
+#include "common/free_format.h"
 #include "common/line_reader.h"
+#include "common/record_format.h"
 #include "common/units.h"
 
 namespace tarvo {
@@ -53,6 +55,16 @@ TEST_F(UnitsTest, WritingToAnUnopenedUnitCreatesFortFile) {
   write_line(units, 15, "second");
   close_all_units(units);
   EXPECT_EQ(read_file("fort.15"), "   12  1.50000E+00\nsecond\n");
+}
+
+TEST_F(UnitsTest, RecordsAndFreeLinesReachTheirUnit) {
+  Units units;
+  ASSERT_TRUE(open_unit(units, 16, "MODEL.SOL", OpenStatus::unknown));
+  write_record(units, 16, "(i2/1x,a)", {1LL, std::string_view("two")});
+  write_free(units, 16, "objval  = ", -2.5);
+  write_free(units, 16);
+  close_all_units(units);
+  EXPECT_EQ(read_file("MODEL.SOL"), " 1\n two\n objval  =  -2.5\n \n");
 }
 
 TEST_F(UnitsTest, WritesToNoFileOrStandardInputAreDropped) {

@@ -68,7 +68,7 @@ TEST(FreeOutput, Lines) {
   } cases[] = {
       {free_line(), " "},
       {free_line("rows:    ", 100), " rows:     100"},
-      {free_line("ibug      = ", -2), " ibug      = -2"},
+      {free_line("ibug      = ", -2), " ibug      =  -2"},
       {free_line("rho       = ", 1000.0), " rho       =   1000."},
       {free_line("x", -2.5), " x -2.5"},
       {free_line(-0.0), "   0."},
@@ -76,7 +76,7 @@ TEST(FreeOutput, Lines) {
       {free_line(std::nan("")), "   NaN"},
       {free_line(-kInf), "  -Infinity"},
       {free_line(1.0e20f), "   1.00000002E+20"},
-      {free_line(static_cast<short>(-5), static_cast<unsigned char>(9)), " -5 9"},
+      {free_line(static_cast<short>(-5), static_cast<unsigned char>(9)), "  -5 9"},
       {free_line(std::string("owned "), std::string_view("view")), " owned view"},
   };
   for (const auto& c : cases) EXPECT_EQ(c.line, c.expected);
