@@ -68,6 +68,7 @@ void write_reduction_trace(const Context& ctx, double sigzs, double reduced) {
 }  // namespace
 
 void estimate_control(const Context& ctx, Evaluation& ev) {
+  clear_cut(ev);
   Moments m;
   accumulate_means(ctx, ev, m);
   accumulate_spreads(ctx, ev, m);

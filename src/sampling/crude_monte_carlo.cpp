@@ -18,6 +18,7 @@ double variance_of_mean(const Evaluation& ev, int n) {
 }  // namespace
 
 void estimate_mean(const Context& ctx, Evaluation& ev) {
+  clear_cut(ev);
   const int n = ev.nsamples;
   for (int k = 1; k <= n; ++k) {
     ev.cut.objs += ev.costs[k] / n;

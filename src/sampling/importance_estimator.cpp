@@ -55,6 +55,8 @@ void write_block_table(const Context& ctx, const Evaluation& ev) {
 }  // namespace
 
 void estimate_importance(const Context& ctx, Evaluation& ev) {
+  clear_cut(ev);
+  for (int b = 1; b <= ev.nblocks; ++b) ev.block_mean[b] = 0.0;
   int first = 1;
   for (int b = 1; b <= ev.nblocks; ++b) {
     add_block_ratios(ctx, ev, b, first);
@@ -80,10 +82,7 @@ void estimate_importance(const Context& ctx, Evaluation& ev) {
 
 int evalis(const Context& ctx, Evaluation& ev) {
   clear_cut(ev);
-  for (int b = 1; b <= ev.nblocks; ++b) {
-    ev.block_mean[b] = 0.0;
-    ev.block_variance[b] = 0.0;
-  }
+  for (int b = 1; b <= ev.nblocks; ++b) ev.block_variance[b] = 0.0;
   int startflag = kAlwaysWarm;
   const PassPlan plan{.rows = ev.share_end[ev.nblocks], .cost_offset = 1, .mode = 2,
                       .reorder = true, .collect = CollectRule::importance};

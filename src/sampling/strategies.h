@@ -29,7 +29,8 @@ int evalis(const Context& ctx, Evaluation& ev);
 // Control-variable sampling on rows 1..N with the approximation as control: every solve warm.
 int evalcv(const Context& ctx, Evaluation& ev);
 
-// The estimators proper, from the per-point costs and dual products that a solve pass left.
+// The estimators proper, from the per-point costs and dual products that a solve pass left; each
+// starts from a cleared cut record.
 void estimate_mean(const Context& ctx, Evaluation& ev);
 void estimate_universe(const Context& ctx, Evaluation& ev);
 void estimate_importance(const Context& ctx, Evaluation& ev);

@@ -19,6 +19,7 @@ double row_probability(const Context& ctx, const Evaluation& ev, int k) {
 }  // namespace
 
 void estimate_universe(const Context& ctx, Evaluation& ev) {
+  clear_cut(ev);
   for (int k = 1; k <= ev.nsamples; ++k) {
     const double p = row_probability(ctx, ev, k);
     ev.cut.objs += p * ev.costs[k];
