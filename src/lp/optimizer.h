@@ -13,6 +13,7 @@ namespace tarvo::lp {
 
 inline constexpr int kSpecsUnit = 4;
 inline constexpr int kPrintUnit = 23;
+inline constexpr int kInitFailed = 13;
 
 struct Optimizer {
   Options options;

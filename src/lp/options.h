@@ -6,6 +6,7 @@
 // by the IPARM/RPARM phrases (IPARM k and RPARM k address entry k directly, k = 1..30); the rest
 // follow in our own order. Every option starts unset (kUnsetInt / kUnsetReal).
 #include <array>
+#include <string_view>
 
 #include "common/units.h"
 #include "lp/problem_slot.h"
@@ -14,6 +15,13 @@ namespace tarvo::lp {
 
 inline constexpr int kUnsetInt = -11111;
 inline constexpr double kUnsetReal = -11111.0;
+
+// Status of read_specs; a count n >= 1 of phrases not understood is returned as it stands.
+inline constexpr int kOptionsRead = 0;
+inline constexpr int kOptionsBadUnit = 1;
+inline constexpr int kOptionsEndOfFileInSet = 2;
+inline constexpr int kOptionsEndOfFileBeforeBegin = 3;
+inline constexpr int kOptionsEndRun = 4;
 
 enum IntOption : int {
   // IPARM 1..5
@@ -132,8 +140,11 @@ struct Options {
   Name8 rhs_name;
   Name8 ranges_name;
   Name8 bounds_name;
-  // Number of nonlinear variables of the problem being solved, known to apply_defaults(2).
-  int nonlinear_variables = 0;
+  // Nonlinear counts of the problem being solved, known to apply_defaults(2); set them with
+  // set_problem_counts. A problem without nonlinear variables is "linear" for the defaults.
+  int nonlinear_variables = 0;  // max(nonlinear objective, nonlinear Jacobian variables)
+  int nonlinear_objective_vars = 0;
+  int nonlinear_jacobian_vars = 0;
   bool nonlinear_constraints_present = false;
 };
 
@@ -149,7 +160,15 @@ int set_option(Options& options, Units& units, std::string_view phrase, int prin
 int set_option_int(Options& options, Units& units, std::string_view phrase, int value,
                    int print_unit, int summary_unit);
 // 1: every option unset (and the fixed initial values); 2: defaults for unset or out-of-range
-// options; 3: the Parameters report on the print file.
+// options; 3: the Parameters report on the print file. The units (options file, PRINT FILE,
+// SUMMARY FILE) and the workspace sizes are kept by mode 1: read_specs sets them.
 void apply_defaults(Options& options, Units& units, int mode);
+
+// Records the nonlinear counts of the problem about to be solved, for apply_defaults(2).
+void set_problem_counts(Options& options, int nncon, int nnobj, int nnjac);
+
+// Completes the Row, Column and Elements limits (100; 3 x rows; 5 x columns) when unset or below
+// 1; part of apply_defaults(2), and what the optimizer sizes its slots from.
+void complete_capacities(Options& options);
 
 }  // namespace tarvo::lp

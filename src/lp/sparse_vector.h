@@ -14,7 +14,9 @@ struct SparseVector {
 
 void sparse_resize(SparseVector& v, int size);  // allocates once; sets every value to zero
 void sparse_clear(SparseVector& v);             // zeroes the listed positions, count = 0
-void sparse_set(SparseVector& v, int i, double x);  // appends i to the pattern if not listed
+// Appends i to the pattern if not listed. O(1), except when position i holds a zero: then the
+// pattern is scanned, so fill an empty vector by writing index and value directly.
+void sparse_set(SparseVector& v, int i, double x);
 // Rebuilds the pattern from the dense values (drops entries below `drop` in magnitude).
 void sparse_rebuild_pattern(SparseVector& v, double drop);
 

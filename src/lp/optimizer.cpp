@@ -1,0 +1,136 @@
+#include "lp/optimizer.h"
+
+#include <cstddef>
+#include <string_view>
+
+#include "common/free_format.h"
+
+namespace tarvo::lp {
+
+namespace {
+
+constexpr int kWorkspacePerElement = 2;
+
+bool valid_slot(int slot) { return slot >= kMasterSlot && slot <= kCoreSlot; }
+
+// Without debugging the print file holds only the options echo: the optimizer writes nothing
+// further to it or to a summary file.
+void switch_print_files_off(Optimizer& opt, Units& units) {
+  set_option_int(opt.options, units, "SUMMARY FILE", 0, kPrintUnit, 0);
+  set_option_int(opt.options, units, "PRINT   FILE", 0, kPrintUnit, 0);
+  close_unit(units, kPrintUnit);
+}
+
+void write_sizes(const Options& options, Units& units, int out_unit) {
+  write_free(units, out_unit, "Simplex specs file:");
+  write_free(units, out_unit, "rows:    ", options.ival[kRowLimit]);
+  write_free(units, out_unit, "columss: ", options.ival[kColumnLimit]);
+  write_free(units, out_unit, "elements:", options.ival[kElementsLimit]);
+  write_free(units, out_unit);
+}
+
+// Every slot and its simplex state are sized here once for the whole run.
+void allocate_slots(Optimizer& opt) {
+  const Options& o = opt.options;
+  opt.mmax = o.ival[kRowLimit];
+  opt.nmax = o.ival[kColumnLimit];
+  opt.nbmax = opt.mmax + opt.nmax;
+  opt.nemax = o.ival[kElementsLimit];
+  opt.nwcore = kWorkspacePerElement * opt.nemax;
+  opt.options.ival[kWorkspaceTotal] = opt.nwcore;
+  for (int k = kMasterSlot; k <= kCoreSlot; ++k) {
+    allocate_slot(opt.slot[k], opt.mmax, opt.nmax, opt.nemax);
+    allocate_simplex_state(opt.solver[k], opt.mmax, opt.nmax, opt.nemax);
+  }
+}
+
+void copy_solution(const ProblemSlot& s, std::vector<double>& duals,
+                   std::vector<double>& primal) {
+  const std::size_t nb = static_cast<std::size_t>(s.n) + s.m;
+  if (primal.size() < nb + 1) primal.resize(nb + 1);
+  if (duals.size() < nb + 1) duals.resize(nb + 1);
+  for (std::size_t j = 1; j <= nb; ++j) primal[j] = s.xn[j];
+  for (int i = 1; i <= s.m; ++i) duals[i] = s.pi[i];
+  for (int j = 1; j <= s.n; ++j) duals[s.m + j] = s.rc[j];
+}
+
+// The optimizer's start word for start 0, 1 or any other value.
+std::string_view start_word(int start) {
+  if (start == 0) return "cold";
+  if (start == 1) return "warm";
+  return "hot ";
+}
+
+void report_inform(Units& units, int out_unit, int inform) {
+  if (inform == 1) {
+    write_free(units, out_unit, "ERROR: PROBLEM INFEASIBLE");
+  } else if (inform == 2) {
+    write_free(units, out_unit, "ERROR: PROBLEM UNBOUNDED");
+  } else if (inform != 0) {
+    write_free(units, out_unit, "ERROR: ERROR CODE: ", inform);
+  }
+}
+
+}  // namespace
+
+int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug) {
+  if (opt.active == 0) opt.active = kMasterSlot;
+  if (!open_unit(units, kSpecsUnit, "SIMPLEX.SPC", OpenStatus::old_file)) {
+    write_free(units, err_unit, "ERROR: SPECS file SIMPLEX.SPC not found");
+    return kInitFailed;
+  }
+  open_unit(units, kPrintUnit, "MODEL.MO", OpenStatus::unknown);
+  // The workspace is sized from ELEMENTS, so its total is known only after the read.
+  const int status = read_specs(opt.options, units, kSpecsUnit, kPrintUnit, 0, 0);
+  close_unit(units, kSpecsUnit);
+  int result = 0;
+  if (status >= 1) {
+    write_free(units, err_unit, "ERROR: while reading SPECS file");
+    result = kInitFailed;
+  } else if (debug == 0) {
+    switch_print_files_off(opt, units);
+  }
+  // A file without ROWS, COLUMNS or ELEMENTS still sizes the slots: by the defaults of a solve.
+  complete_capacities(opt.options);
+  write_sizes(opt.options, units, out_unit);
+  allocate_slots(opt);
+  return result;
+}
+
+void select_problem(Optimizer& opt, int slot) {
+  if (valid_slot(slot)) opt.active = slot;
+}
+
+ProblemSlot& active_slot(Optimizer& opt) { return opt.slot[opt.active]; }
+
+void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_unit) {
+  ProblemSlot& s = active_slot(opt);
+  s.nncon = 0;
+  s.nnjac = 0;
+  if (quadratic != 1) {
+    s.nnobj = 0;
+    set_option_int(opt.options, units, "SUPERBASICS LIMIT", 1, out_unit, 0);
+    return;
+  }
+  s.nnobj = s.n;
+  set_option_int(opt.options, units, "SUPERBASICS LIMIT", s.n + 1, out_unit, 0);
+  set_option_int(opt.options, units, "HESSIAN DIMENSION", s.n + 1, out_unit, 0);
+  set_option_int(opt.options, units, "PARTIAL PRICE", 1, out_unit, 0);
+}
+
+int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int start,
+                  double& objective, double& /*spare1*/, std::vector<double>& duals,
+                  double& /*spare2*/, std::vector<double>& primal) {
+  set_option(opt.options, units, "MPS file 0", 0, 0);
+  ProblemSlot& s = active_slot(opt);
+  inform = 0;
+  inform = optimizer_solve(opt.solver[opt.active], opt.options, units, s, start_word(start),
+                           opt.names, opt.nwcore, opt.regularization);
+  objective = s.obj;
+  copy_solution(s, duals, primal);
+  if (inform == 1) objective = s.sinf;
+  report_inform(units, out_unit, inform);
+  return 0;
+}
+
+}  // namespace tarvo::lp
