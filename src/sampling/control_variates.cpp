@@ -90,7 +90,7 @@ int evalcv(const Context& ctx, Evaluation& ev) {
   clear_cut(ev);
   if (ev.collect == 1) clear_accumulators(ev);
   int startflag = kAlwaysWarm;
-  const PassPlan plan{.rows = ev.nsamples, .cost_offset = 1, .mode = 2, .reorder = true,
+  const PassPlan plan{.rows = ev.nsamples, .cost_offset = 1, .mode = 2, .visit = Visit::sorted,
                       .collect = CollectRule::mean};
   if (solve_points(ctx, ev, plan, startflag) != kOk) return kErrorExit;
   if (ev.infeasible_point != 0) {

@@ -33,7 +33,7 @@ void estimate_mean(const Context& ctx, Evaluation& ev) {
 int evalcmc(const Context& ctx, Evaluation& ev, int& startflag) {
   clear_cut(ev);
   if (ev.collect == 1) clear_accumulators(ev);
-  const PassPlan plan{.rows = ev.nsamples, .cost_offset = 0, .mode = 3, .reorder = true,
+  const PassPlan plan{.rows = ev.nsamples, .cost_offset = 0, .mode = 3, .visit = Visit::sorted,
                       .collect = CollectRule::mean};
   if (solve_points(ctx, ev, plan, startflag) != kOk) return kErrorExit;
   if (ev.infeasible_point != 0) {

@@ -47,6 +47,7 @@ void size_approximation(Approximation& a, int nblocks, std::size_t outcomes) {
 void size_outcome_arrays(Evaluation& ev, const input::OutcomeStore& store) {
   const int nb = ev.nblocks;
   ev.index.assign(nb + 1, 1);
+  ev.visit_step.assign(nb + 1, 1);
   ev.cumulative.assign(largest_outcome_count(store) + 2, 0.0);
   ev.block_prob.assign(nb + 1, 0.0);
   ev.current.assign(ev.nentries + 1, 0.0);

@@ -87,6 +87,7 @@ struct Evaluation {
                                    // the approximation is used; the points follow from 2)
   std::vector<double> point_u;     // capacity rows x n1: C' pi of every point
   std::vector<int> order;          // [1..capacity] the order in which points are solved
+  std::vector<int> visit_step;     // [1..nblocks] scratch of the serpentine order
   std::vector<char> solved;        // [1..capacity] point already solved in this pass
   int infeasible_point = 0;        // the point whose infeasibility ended the last pass, or 0
 
@@ -111,6 +112,11 @@ struct Evaluation {
   int collect = 0;
   std::vector<double> acc_primal;  // [1..n2+m2]
   std::vector<double> acc_duals;   // [1..m2+n2]
+
+  // Work counters for the run's statistics: subproblem solves, and points that took the results
+  // of an identical point solved just before them.
+  long long lp_solves = 0;
+  long long reused_points = 0;
 
   // Best (lowest) total cost and the proposal that gave it.
   double current_total = 0.0;

@@ -85,7 +85,7 @@ int evalis(const Context& ctx, Evaluation& ev) {
   for (int b = 1; b <= ev.nblocks; ++b) ev.block_variance[b] = 0.0;
   int startflag = kAlwaysWarm;
   const PassPlan plan{.rows = ev.share_end[ev.nblocks], .cost_offset = 1, .mode = 2,
-                      .reorder = true, .collect = CollectRule::importance};
+                      .visit = Visit::sorted, .collect = CollectRule::importance};
   if (solve_points(ctx, ev, plan, startflag) != kOk) return kErrorExit;
   if (ev.infeasible_point != 0) {
     end_on_infeasible(ctx, ev, plan);

@@ -7,7 +7,7 @@
 namespace tarvo::sampling {
 
 int evalmarg(const Context& ctx, Evaluation& ev, int& startflag) {
-  const PassPlan plan{.rows = ev.nmarg, .cost_offset = 0, .mode = 1, .reorder = false,
+  const PassPlan plan{.rows = ev.nmarg, .cost_offset = 0, .mode = 1, .visit = Visit::table,
                       .collect = CollectRule::base_copy};
   if (solve_points(ctx, ev, plan, startflag) != kOk) return kErrorExit;
   if (ev.infeasible_point != 0) {

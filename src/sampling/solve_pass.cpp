@@ -30,11 +30,34 @@ bool row_before(const Evaluation& ev, int a, int b) {
   return a < b;
 }
 
-void order_points(Evaluation& ev, int rows) {
+void sort_points(Evaluation& ev, int rows) {
   for (int k = 1; k <= rows; ++k) ev.order[k] = k;
   const auto before = [&ev](int a, int b) { return row_before(ev, a, b); };
   int* first = ev.order.data() + 1;
   if (!std::is_sorted(first, first + rows, before)) std::sort(first, first + rows, before);
+}
+
+// The reflected mixed-radix order of the universe table: the last block runs up, then down, and
+// each block moves one outcome whenever the blocks after it turn around. ev.index holds the
+// outcomes and ev.visit_step the directions meanwhile.
+void serpentine_points(const Context& ctx, Evaluation& ev, int rows) {
+  for (int b = 1; b <= ev.nblocks; ++b) {
+    ev.index[b] = 1;
+    ev.visit_step[b] = 1;
+  }
+  for (int v = 1; v <= rows; ++v) {
+    int k = 0;
+    for (int b = 1; b <= ev.nblocks; ++b) k = k * ctx.store.nsoc[b] + ev.index[b] - 1;
+    ev.order[v] = k + 1;
+    for (int b = ev.nblocks; b >= 1; --b) {
+      const int next = ev.index[b] + ev.visit_step[b];
+      if (next >= 1 && next <= ctx.store.nsoc[b]) {
+        ev.index[b] = next;
+        break;
+      }
+      ev.visit_step[b] = -ev.visit_step[b];
+    }
+  }
 }
 
 int block_of_point(const Evaluation& ev, int s) {
@@ -83,6 +106,7 @@ void store_point(Evaluation& ev, const PassPlan& plan, int k) {
 void copy_point(Evaluation& ev, const PassPlan& plan, int from, int to) {
   ev.costs[to + plan.cost_offset] = ev.costs[from + plan.cost_offset];
   std::copy(point_u(ev, from) + 1, point_u(ev, from) + 1 + ev.n1, point_u(ev, to) + 1);
+  ++ev.reused_points;
 }
 
 int solve_point(const Context& ctx, Evaluation& ev, const PassPlan& plan, int k, int& startflag,
@@ -126,7 +150,7 @@ int settle_first_infeasible(const Context& ctx, Evaluation& ev, const PassPlan& 
 }
 
 int solve_reordered(const Context& ctx, Evaluation& ev, const PassPlan& plan, int& startflag) {
-  order_points(ev, plan.rows);
+  order_points(ctx, ev, plan);
   int previous = 0;
   for (int v = 1; v <= plan.rows; ++v) {
     const int k = ev.order[v];
@@ -145,10 +169,18 @@ int solve_reordered(const Context& ctx, Evaluation& ev, const PassPlan& plan, in
 
 }  // namespace
 
+void order_points(const Context& ctx, Evaluation& ev, const PassPlan& plan) {
+  if (plan.visit == Visit::serpentine) {
+    serpentine_points(ctx, ev, plan.rows);
+  } else {
+    sort_points(ev, plan.rows);
+  }
+}
+
 int solve_points(const Context& ctx, Evaluation& ev, const PassPlan& plan, int& startflag) {
   ev.infeasible_point = 0;
   for (int k = 1; k <= plan.rows; ++k) ev.solved[k] = 0;
-  const bool table_order = !plan.reorder || ctx.params.ibug >= 2 || ev.collect == 1;
+  const bool table_order = plan.visit == Visit::table || ctx.params.ibug >= 2 || ev.collect == 1;
   if (table_order) return solve_in_table_order(ctx, ev, plan, startflag);
   return solve_reordered(ctx, ev, plan, startflag);
 }

@@ -2,11 +2,12 @@
 // Solving the points of the sample table for one evaluation.
 //
 // The estimators are sums over the points in table order; the solves need not be. When nothing
-// is traced per point and nothing is collected for the report, the points are solved in
-// lexicographic order of their outcome rows, so that consecutive solves differ in few blocks and
-// the warm starts are short, and a point whose row equals the one solved just before takes that
-// point's results without a solve. Every point's cost and dual product are stored, and the
-// estimators then run in table order, so the estimates do not depend on the order of the solves.
+// is traced per point and nothing is collected for the report, the points are solved in an order
+// in which consecutive outcomes differ little, so that the warm starts are short: a sample in
+// lexicographic order of its rows (a point whose row equals the one solved just before takes that
+// point's results without a solve), the universe in serpentine order (every step changes one
+// block by one outcome). Every point's cost and dual product are stored, and the estimators then
+// run in table order, so the estimates do not depend on the order of the solves.
 #include "sampling/evaluation.h"
 
 namespace tarvo::sampling {
@@ -20,11 +21,17 @@ enum class CollectRule {
   base_copy,   // point 1 is copied
 };
 
+enum class Visit {
+  table,       // rows 1, 2, ... as they stand
+  sorted,      // lexicographic order of the rows
+  serpentine,  // the universe table (all combinations, last block fastest) in reflected order
+};
+
 struct PassPlan {
   int rows = 0;         // points 1..rows of the sample table
   int cost_offset = 0;  // the cost of point k goes to ev.costs[k + cost_offset]
   int mode = 1;         // subeval mode (3: with the scenario probability)
-  bool reorder = false; // the points may be solved out of table order
+  Visit visit = Visit::table;
   CollectRule collect = CollectRule::none;
 };
 
@@ -32,6 +39,9 @@ struct PassPlan {
 // the pass stops; ev.infeasible_point is then the lowest-numbered infeasible point (points before
 // it that a reordered pass had not reached are solved to find it), else 0.
 int solve_points(const Context& ctx, Evaluation& ev, const PassPlan& plan, int& startflag);
+
+// ev.order[1..plan.rows] := the order in which a pass that may reorder visits the points.
+void order_points(const Context& ctx, Evaluation& ev, const PassPlan& plan);
 
 // Zeroes the report accumulators.
 void clear_accumulators(Evaluation& ev);

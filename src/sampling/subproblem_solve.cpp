@@ -51,6 +51,7 @@ int subsolve(const Context& ctx, Evaluation& ev, int& startflag, int& status) {
   lp::solve_problem(ctx.optimizer, ctx.units, ctx.log_unit, inform, start, ev.z, spare, ev.duals,
                     spare, ev.primal);
   clock_interval(ctx.clock, &ctx.clock.subproblem);
+  ++ev.lp_solves;
   status = inform;
   if (inform == 0 || inform == 1) return kOk;
   return dumpbad(ctx, lp::kSubproblemSlot, inform);

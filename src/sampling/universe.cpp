@@ -32,8 +32,7 @@ void estimate_universe(const Context& ctx, Evaluation& ev) {
 int evaluniv(const Context& ctx, Evaluation& ev, int& startflag) {
   clear_cut(ev);
   if (ev.collect == 1) clear_accumulators(ev);
-  // The table's order (last block fastest) already changes one block at a time mostly.
-  const PassPlan plan{.rows = ev.nsamples, .cost_offset = 0, .mode = 3, .reorder = false,
+  const PassPlan plan{.rows = ev.nsamples, .cost_offset = 0, .mode = 3, .visit = Visit::serpentine,
                       .collect = CollectRule::scenario};
   if (solve_points(ctx, ev, plan, startflag) != kOk) return kErrorExit;
   if (ev.infeasible_point != 0) {

@@ -1,11 +1,14 @@
 // Universe and marginal tables, and the division of a sample among blocks.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <numeric>
 
 #include "harness.h"
 #include "sampling/allocate.h"
 #include "sampling/sample_tables.h"
+#include "sampling/solve_pass.h"
 
 namespace tarvo::sampling {
 namespace {
@@ -27,6 +30,26 @@ TEST(Tables, UniverseIsTheLexicographicEnumeration) {
         EXPECT_EQ(table_entry(ev, k, 2), b);
         EXPECT_EQ(table_entry(ev, k, 3), c);
       }
+}
+
+// The universe is solved in serpentine order: every row once, each step one block by one outcome.
+TEST(Tables, SerpentineVisitsTheUniverseOneStepAtATime) {
+  testing::Harness h;
+  h.params.istrat = 4;
+  h.store = testing::make_store({{0.5, 0.5}, {0.2, 0.3, 0.5}, {1.0}, {0.1, 0.2, 0.3, 0.4}});
+  Evaluation ev;
+  ASSERT_EQ(allocate_evaluation(ev, h.context()), kOk);
+  ASSERT_EQ(univtab(h.context(), ev), kOk);
+  order_points(h.context(), ev, PassPlan{.rows = 24, .visit = Visit::serpentine});
+  std::vector<int> seen(25, 0);
+  for (int v = 1; v <= 24; ++v) {
+    ++seen[ev.order[v]];
+    if (v == 1) continue;
+    int steps = 0;
+    for (int b = 1; b <= 4; ++b) steps += std::abs(table_entry(ev, ev.order[v], b) - table_entry(ev, ev.order[v - 1], b));
+    EXPECT_EQ(steps, 1) << "step " << v;
+  }
+  EXPECT_EQ(std::count(seen.begin() + 1, seen.end(), 1), 24);
 }
 
 TEST(Tables, UniverseBeyondTheTableIsRefused) {
