@@ -30,6 +30,16 @@ inline std::string read_file(const fs::path& path) {
   return buffer.str();
 }
 
+// Options with room for every bundled problem.
+inline const char* const kSampleOptions =
+    "BEGIN  options for the bundled test problems\n"
+    "   ROWS                   3000\n"
+    "   COLUMNS               10000\n"
+    "   ELEMENTS             120000\n"
+    "   ITERATIONS LIMIT     200000\n"
+    "   PRINT LEVEL               0\n"
+    "END\n";
+
 inline void copy_example(const std::string& name, const fs::path& dir) {
   const fs::path source = fs::path(TARVO_SOURCE_DIR) / "examples" / name;
   for (const auto& entry : fs::directory_iterator(source)) {

@@ -11,6 +11,7 @@
 #include "driver/run_params_reader.h"
 #include "driver/run_state.h"
 #include "driver/timing_report.h"
+#include "lp/optimizer.h"
 
 namespace tarvo::driver {
 namespace {
@@ -46,11 +47,19 @@ int run_tarvo() {
   write_long_banner(run->units, kConsoleUnit);
   open_run_files(*run);
   if (!read_run_params(run->units, run->params)) {
-    write_line(run->units, kErrorUnit, "error in file MODEL.INP");
+    write_free(run->units, kErrorUnit, "error in file MODEL.INP");
     error_exit(*run, 1);
     return 0;
   }
   open_screen_log(*run);
+  if (lp::optimizer_init(run->optimizer, run->units, run->params.iscratch, kErrorUnit,
+                         run->params.iwrite) != 0) {
+    // The optimizer could not start: stop at once, without the status file or the exit line.
+    write_free(run->units, kErrorUnit, "ERROR: could not initialize optimizer");
+    write_free(run->units, kConsoleUnit, "ERROR exit");
+    close_all_units(run->units);
+    return 0;
+  }
   run->evaluation_run = read_mode_line(std::cin);
   finish_run(*run);
   return 0;

@@ -51,17 +51,20 @@ struct OutcomeStore {
   int itele = 0;  // sum over blocks of outcomes x entries
 
   int count = 0;               // random parameters read
+  int entries = 0;             // descriptors stored (sum of nse)
   std::vector<int> nsoc;       // [1..count] outcomes of block k
   std::vector<int> nse;        // [1..count] entries per outcome of block k
   std::vector<int> entry_start;   // [1..count+1] first entry (1-based) of block k
   std::vector<int> value_start;   // [1..count+1] first value of block k
   std::vector<int> prob_start;    // [1..count+1] first probability of block k
+  // Entry e (0-based) of outcome o (0-based) of block k: values[value_start[k] + o * nse[k] + e];
+  // its probability probs[prob_start[k] + o]; its descriptor kind/location[entry_start[k] + e].
   std::vector<int> kind;       // [1..entries] -1 objective, -2 rhs, -3 B element, -11/-12/-13
                                // upper/lower/fixed bound, i > 0 subproblem element in row i
   std::vector<int> location;   // [1..entries] element position, row or column (see kind)
   std::vector<double> values;  // [1..] outcome after outcome, nse(k) values each, block by block
   std::vector<double> probs;   // [1..] nsoc(k) probabilities per block
-  std::vector<double> expected;  // [1..entries] expected value of each entry
+  std::vector<double> expected;  // [1..entries] sum over outcomes of probability x value
 
   bool matrix_random = false;
   bool bound_random = false;

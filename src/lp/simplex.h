@@ -2,6 +2,7 @@
 // The simplex optimizer's solve of one problem slot, and the state it keeps per slot between
 // solves (basis, factors, scales) so that warm and hot starts are cheap.
 #include <array>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "lp/lu_factor.h"
 #include "lp/options.h"
 #include "lp/problem_slot.h"
+#include "lp/sparse_vector.h"
 
 namespace tarvo::lp {
 
@@ -19,9 +21,151 @@ struct Regularization {
   double rho = 1000.0;
 };
 
-// What the simplex keeps for one slot between solves.
+// State of one variable of the working problem (columns 0..n-1, then one logical per row).
+enum VarState : signed char {
+  kBasicVar = 0,
+  kNonbasicLower,
+  kNonbasicUpper,
+  kNonbasicFree,  // free and nonbasic: held at zero
+  kSuperbasicVar,  // between its bounds, not basic
+};
+
+// Counters of one solve, kept for the log, the summary and the benchmark.
+struct SimplexCounters {
+  int iterations = 0;
+  int primal_iterations = 0;
+  int dual_iterations = 0;
+  int bound_flips = 0;
+  int factorizations = 0;
+  int singular_repairs = 0;
+  int regobj_calls = 0;
+  bool reused_factors = false;  // the solve started from the factors kept from the last one
+  bool reused_scales = false;
+};
+
+// What the simplex keeps for one slot between solves. Work arrays are sized once from the slot
+// capacities; the working problem is a scaled, 0-based copy of the slot in which the objective
+// row is taken out as the cost vector and each other row i has its logical as variable n + i
+// (column +e_i, so that A x + s = 0 and the logical's bounds are the slot's [-up, -lo]).
 struct SimplexState {
-  // (fields owned by the simplex code)
+  int mmax = 0;
+  int nmax = 0;
+  int nemax = 0;
+
+  // Sizes recorded by the entry.
+  int slot_m = 0;
+  int slot_n = 0;
+  int slot_ne = 0;
+  int nncon = 0;
+  int nnobj = 0;
+  int nnjac = 0;
+  int nwcore = 0;
+
+  // Working problem (scaled).
+  int m = 0;  // constraint rows: the slot's rows less the objective row
+  int n = 0;
+  int objective_row = 0;        // slot row holding the costs (1-based), 0 when none
+  double sense = 1.0;           // -1 when maximizing
+  double objadd = 0.0;
+  std::vector<int> slot_row;    // [m] slot row (1-based) of working row i
+  std::vector<int> work_row;    // [slot m + 1] working row of a slot row, -1 for the objective
+  std::vector<int> col_start;   // [n + 1] column-major matrix without the objective row
+  std::vector<int> row_index;
+  std::vector<double> value;
+  std::vector<int> row_start;   // [m + 1] the same matrix row by row
+  std::vector<int> col_index;
+  std::vector<double> row_value;
+  std::vector<double> cost;     // [n + m] costs in use (may carry shifts or perturbations)
+  std::vector<double> base_cost;  // [n + m] scaled costs as given
+  std::vector<double> lower;    // [n + m] bounds in use (may carry perturbations)
+  std::vector<double> upper;
+  std::vector<double> base_lower;  // [n + m] scaled bounds as given
+  std::vector<double> base_upper;
+  std::vector<double> scale;    // [n + m] true value = scale * working value
+  std::vector<double> col_scale_work;  // [n] scratch for the scaling passes
+  std::vector<double> row_scale_work;  // [m]
+  std::vector<double> row_min_work;    // [m]
+  bool costs_shifted = false;
+  bool bounds_perturbed = false;
+
+  // Source of the scaled matrix, to tell cheaply whether the slot's matrix changed.
+  int source_m = -1;
+  int source_n = -1;
+  int source_ne = -1;
+  int source_objective_row = -1;
+  int source_scale_option = -1;
+  std::vector<int> source_ka;
+  std::vector<int> source_ha;
+  std::vector<double> source_a;
+  bool matrix_valid = false;
+
+  // Basis and solution of the working problem.
+  std::vector<int> head;         // [m] variable in each basis position
+  std::vector<int> position;     // [n + m] basis position, -1 when nonbasic
+  std::vector<signed char> state;  // [n + m] VarState
+  std::vector<double> x;         // [n + m]
+  std::vector<double> y;         // [m] duals of the cost vector in use
+  std::vector<double> d;         // [n + m] reduced costs (0 for basic variables)
+  std::vector<double> basic_cost;  // [m] cost of each basis position in the current phase
+  int phase = 2;                 // 1 while minimizing the sum of infeasibilities
+  int ninf = 0;
+  double sinf = 0.0;
+
+  // Factors of the basis.
+  LuFactors lu;
+  LuSettings lu_settings;
+  LuReport lu_report;
+  bool factors_valid = false;
+  int updates = 0;           // basis changes since the last factorization
+  bool refactor_due = false;
+
+  // Pricing weights: primal Devex over variables, dual steepest edge over basis positions.
+  std::vector<double> primal_weight;  // [n + m]
+  std::vector<double> dual_weight;    // [m]
+  bool dual_weights_valid = false;
+  int partial_start = 0;
+  int entering_direction = 1;   // +1 up, -1 down, set by the primal pricing
+  std::vector<int> rejected;    // [n + m] iteration + 1 in which a candidate was turned down
+
+  // Work vectors.
+  SparseVector column;  // [m] the entering column, transformed
+  SparseVector rho;     // [m] a row of the basis inverse
+  SparseVector tau;     // [m] B^-1 rho, for the dual steepest edge update
+  SparseVector work;    // [m] general use (right-hand sides, flips, cost changes)
+  std::vector<double> pivot_row;   // [n + m] rho^T [A I] on the nonbasic variables
+  std::vector<int> pivot_index;    // [n + m] its pattern
+  std::vector<char> pivot_mark;    // [n + m] listed in pivot_index
+  int pivot_count = 0;
+  std::vector<int> saved_head;     // [m] the head before a factorization that may repair it
+  std::vector<int> candidate;      // [n + m] ratio test candidates
+  std::vector<double> candidate_ratio;
+  std::vector<int> flipped;        // [n + m] variables flipped by one dual ratio test
+  int flipped_count = 0;
+  std::uint64_t random = 0x9E3779B97F4A7C15ull;  // perturbation generator
+
+  // Quadratic objective (regularized master): superbasic set and reduced Hessian.
+  std::vector<int> superbasic;     // [<= n] variables in the superbasic set
+  int superbasic_count = 0;
+  std::vector<double> hessian_diag;  // [n + m] working-space diagonal of the Hessian
+  std::vector<double> centre;        // [n + m] working-space centre of the quadratic term
+  std::vector<double> reduced_hessian;  // dense ns x ns, then its Cholesky factor (grown on use)
+  std::vector<double> basic_moves;      // dense m x ns: B^-1 times the superbasic columns
+  std::vector<double> search;           // [n + m] search direction
+  std::vector<double> regobj_x;         // [n + 1] column values for regobj, 1-based
+  std::vector<double> regobj_g;         // [n + 1] its gradient
+  double nonlinear_objective = 0.0;     // f(x) at the final point
+  bool quadratic = false;
+  bool stop_when_feasible = false;      // the primal method ends with phase 1
+
+  // Reporting.
+  SimplexCounters counters;
+  int stall_count = 0;       // iterations without progress behind exit 4
+  double step_last = 0.0;
+  double pivot_last = 0.0;
+  double dj_last = 0.0;      // reduced cost (or gradient) of the last entering variable
+  bool log_header_written = false;
+  double optimality_ratio = 0.0;  // reduced-gradient norm over the reference norm
+  std::array<char, 8> problem_name{' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
 };
 
 // Sizes the state's work arrays once from the slot capacities.
@@ -34,5 +178,14 @@ void allocate_simplex_state(SimplexState& state, int mmax, int nmax, int nemax);
 int optimizer_solve(SimplexState& state, Options& options, Units& units, ProblemSlot& slot,
                     std::string_view start, const std::array<Name8, 5>& names, int nwcore,
                     const Regularization& regularization);
+
+// Workspace in doubles that a problem of these sizes needs: one copy of the matrix for the
+// scaled working problem and as much again for the basis factors.
+int simplex_workspace_needed(int m, int n, int ne);
+
+// Solve status words used in the headers of basis and solution files: "PROCEEDING  ",
+// "OPTIMAL SOLN", "INFEASIBLE  ", "UNBOUNDED   ", "EXCESS ITNS ", "ERROR CONDN" (codes above 5
+// show as 5).
+std::string_view solve_status_word(int status);
 
 }  // namespace tarvo::lp

@@ -16,6 +16,7 @@ int count_of(const std::string& text, const std::string& part) {
 
 TEST(RunFiles, BannerReportsAndExitLine) {
   const fs::path dir = fresh_directory("files");
+  write_file(dir / "SIMPLEX.SPC", kSampleOptions);
   const ProgramRun run = run_program(TARVO_BINARY, dir, "");
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.console.rfind("  T H E   T  A  R  V  O   S Y S T E M\n", 0), 0u) << run.console;
@@ -31,10 +32,34 @@ TEST(RunFiles, BannerReportsAndExitLine) {
 TEST(RunFiles, ScreenLogOnTheConsoleWhenIscratchIsSix) {
   const fs::path dir = fresh_directory("console");
   write_file(dir / "MODEL.INP", "6 iscratch\n");
+  write_file(dir / "SIMPLEX.SPC", kSampleOptions);
   const ProgramRun run = run_program(TARVO_BINARY, dir, "");
   EXPECT_EQ(count_of(run.console, "T H E   T  A  R  V  O   S Y S T E M"), 2) << run.console;
   EXPECT_TRUE(contains(run.console, " iscratch  =  6\n"));
   EXPECT_FALSE(fs::exists(dir / "MODEL.SCR"));
+  fs::remove_all(dir);
+}
+
+TEST(RunFiles, MissingOptionsFileStopsBeforeTheModel) {
+  const fs::path dir = fresh_directory("nospecs");
+  const ProgramRun run = run_program(TARVO_BINARY, dir, "");
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(read_file(dir / "MODEL.ERR"),
+            " ERROR: SPECS file SIMPLEX.SPC not found\n ERROR: could not initialize optimizer\n");
+  EXPECT_TRUE(contains(run.console, " ERROR exit\n")) << run.console;
+  EXPECT_FALSE(contains(run.console, "ERROR Exit"));
+  EXPECT_TRUE(contains(read_file(dir / "MODEL.SCR"), " parameters: "));
+  fs::remove_all(dir);
+}
+
+TEST(RunFiles, OptionSizesAreEchoedToTheScreenLog) {
+  const fs::path dir = fresh_directory("specs");
+  write_file(dir / "SIMPLEX.SPC", kSampleOptions);
+  run_program(TARVO_BINARY, dir, "");
+  EXPECT_TRUE(contains(read_file(dir / "MODEL.SCR"),
+                       " Simplex specs file:\n rows:     3000\n columss:  10000\n"
+                       " elements: 120000\n \n"));
+  EXPECT_TRUE(fs::exists(dir / "MODEL.MO"));
   fs::remove_all(dir);
 }
 

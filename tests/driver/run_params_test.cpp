@@ -19,6 +19,7 @@ struct InpCase {
 std::string model_inp_echo(const char* inp, std::string& err, std::string& console) {
   const fs::path dir = fresh_directory("inp");
   if (inp) write_file(dir / "MODEL.INP", inp);
+  write_file(dir / "SIMPLEX.SPC", kSampleOptions);
   const ProgramRun run = run_program(TARVO_BINARY, dir, "");
   EXPECT_EQ(run.status, 0);
   console = run.console;
@@ -90,7 +91,7 @@ TEST(RunParams, FaultyRecordsEndTheRunBeforeTheEcho) {
     SCOPED_TRACE(inp);
     std::string err, console;
     const std::string log = model_inp_echo(inp, err, console);
-    EXPECT_EQ(err, "error in file MODEL.INP\n");
+    EXPECT_EQ(err, " error in file MODEL.INP\n");
     EXPECT_FALSE(contains(log, "parameters:"));
     EXPECT_TRUE(contains(console, "\n \n ERROR Exit\n")) << console;
   }

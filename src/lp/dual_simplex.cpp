@@ -1,0 +1,190 @@
+// The dual simplex method (phase 2): from a dual feasible basis, the most infeasible basic
+// variable by dual steepest edge leaves at its violated bound; the bound flipping ratio test
+// picks the entering variable. Reduced costs that would start dual infeasible are removed by
+// flipping boxed variables or shifting costs; the caller removes the shifts afterwards.
+#include <cmath>
+
+#include "lp/simplex_tolerances.h"
+#include "lp/simplex_work.h"
+
+namespace tarvo::lp {
+
+namespace {
+
+// Flips boxed variables with a reduced cost of the wrong sign and shifts the cost of the others
+// so that every reduced cost has the sign its bound asks for. Returns true when a flip moved
+// nonbasic values (the basic values must then be recomputed).
+bool make_dual_feasible(SimplexState& s, double tol) {
+  bool flipped = false;
+  for (int j = 0; j < s.n + s.m; ++j) {
+    const signed char st = s.state[j];
+    if (st == kBasicVar || s.lower[j] == s.upper[j]) continue;
+    const double dj = s.d[j];
+    const bool wrong = (st == kNonbasicLower && dj < -tol) || (st == kNonbasicUpper && dj > tol) ||
+                       ((st == kNonbasicFree || st == kSuperbasicVar) && std::fabs(dj) > tol);
+    if (!wrong) continue;
+    if (is_boxed(s, j)) {
+      s.state[j] = st == kNonbasicLower ? kNonbasicUpper : kNonbasicLower;
+      s.x[j] = s.state[j] == kNonbasicLower ? s.lower[j] : s.upper[j];
+      flipped = true;
+    } else {
+      s.cost[j] -= dj;
+      s.d[j] = 0.0;
+      s.costs_shifted = true;
+    }
+  }
+  return flipped;
+}
+
+int refresh(SimplexState& s, const SimplexSettings& settings, Units& units, bool refactor) {
+  if (refactor) {
+    const int code = factorize_basis(s, settings, units);
+    if (code != kExitOptimal) return code;
+  }
+  s.phase = 2;
+  set_basic_costs(s, settings.feasibility_tol);
+  compute_duals(s);
+  make_dual_feasible(s, settings.optimality_tol);
+  compute_primal_values(s);
+  if (!s.dual_weights_valid) reset_dual_weights(s);
+  return kExitOptimal;
+}
+
+// Small random cost changes in the direction that keeps each reduced cost dual feasible.
+void perturb_costs(SimplexState& s) {
+  for (int j = 0; j < s.n; ++j) {
+    const signed char st = s.state[j];
+    if (st != kNonbasicLower && st != kNonbasicUpper) continue;
+    const double shift =
+        (kPerturbRelative * std::fabs(s.base_cost[j]) + kPerturbAbsolute) * (1.0 + next_random(s));
+    const double signed_shift = st == kNonbasicLower ? shift : -shift;
+    s.cost[j] += signed_shift;
+    s.d[j] += signed_shift;
+  }
+  s.costs_shifted = true;
+}
+
+// Moves the flipped variables to their other bound and the basic variables with them.
+void apply_flips(SimplexState& s) {
+  SparseVector& w = s.work;
+  sparse_clear(w);
+  for (int k = 0; k < s.flipped_count; ++k) {
+    const int j = s.flipped[k];
+    const bool to_upper = s.state[j] == kNonbasicLower || (s.state[j] != kNonbasicUpper && s.pivot_row[j] > 0.0);
+    const double target = to_upper ? s.upper[j] : s.lower[j];
+    const double change = target - s.x[j];
+    s.x[j] = target;
+    s.state[j] = to_upper ? kNonbasicUpper : kNonbasicLower;
+    if (j >= s.n) {
+      w.value[j - s.n] += change;
+    } else {
+      for (int t = s.col_start[j]; t < s.col_start[j + 1]; ++t) w.value[s.row_index[t]] += s.value[t] * change;
+    }
+  }
+  s.counters.bound_flips += s.flipped_count;
+  sparse_rebuild_pattern(w, 0.0);
+  lu_ftran(s.lu, w, false);
+  for (int t = 0; t < w.count; ++t) {
+    const int p = w.index[t];
+    s.x[s.head[p]] -= w.value[p];
+  }
+  sparse_clear(w);
+}
+
+}  // namespace
+
+int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units) {
+  const double tol = settings.feasibility_tol;
+  int code = refresh(s, settings, units, !s.factors_valid);
+  if (code != kExitOptimal) return code;
+  bool fresh = true;
+  int degenerate = 0;
+  int refactors_in_a_row = 0;
+  const int stall_limit = kStallLimitBase + 2 * s.m;
+
+  while (true) {
+    if (s.refactor_due || s.updates >= settings.factor_frequency) {
+      if (++refactors_in_a_row > kRefactorsInARow) return kExitRefactorTwice;
+      code = refresh(s, settings, units, true);
+      if (code != kExitOptimal) return code;
+      fresh = true;
+    }
+    const int r = choose_leaving(s, settings);
+    if (r < 0) {
+      if (!fresh) {
+        refresh(s, settings, units, false);
+        fresh = true;
+        continue;
+      }
+      return kExitOptimal;
+    }
+    if (s.counters.iterations >= settings.iteration_limit) return kExitIterations;
+
+    const int leaving = s.head[r];
+    const double bound = s.x[leaving] < s.lower[leaving] - tol ? s.lower[leaving] : s.upper[leaving];
+    load_unit_row(s, r);
+    lu_btran(s.lu, s.rho);
+    compute_pivot_row(s);
+    const DualStep step = dual_ratio_test(s, s.x[leaving] - bound, settings);
+    if (step.entering < 0) {
+      if (!fresh) {
+        s.refactor_due = true;
+        continue;
+      }
+      return kExitInfeasible;
+    }
+    const int q = step.entering;
+    load_column(s, q, s.column);
+    lu_ftran(s.lu, s.column, true);
+    const double pivot = s.column.value[r];
+    if (std::fabs(s.pivot_row[q] - pivot) > kPivotMismatch * (1.0 + std::fabs(pivot))) {
+      s.refactor_due = true;
+      continue;
+    }
+    double dual_step = s.d[q] / pivot;
+    // A reduced cost of the wrong sign would move the leaving variable's the wrong way too.
+    if ((s.state[q] == kNonbasicLower && s.d[q] < 0.0) || (s.state[q] == kNonbasicUpper && s.d[q] > 0.0)) {
+      s.cost[q] -= s.d[q];
+      s.d[q] = 0.0;
+      s.costs_shifted = true;
+      dual_step = 0.0;
+    }
+    if (s.flipped_count > 0) apply_flips(s);
+
+    sparse_clear(s.tau);
+    for (int t = 0; t < s.rho.count; ++t) {
+      const int i = s.rho.index[t];
+      s.tau.value[i] = s.rho.value[i];
+      s.tau.index[s.tau.count++] = i;
+    }
+    lu_ftran(s.lu, s.tau, false);
+
+    const double primal_step = (s.x[leaving] - bound) / pivot;
+    s.step_last = primal_step;
+    s.pivot_last = pivot;
+    s.x[q] += primal_step;
+    for (int t = 0; t < s.column.count; ++t) {
+      const int p = s.column.index[t];
+      s.x[s.head[p]] -= primal_step * s.column.value[p];
+    }
+    update_dual_weights(s, r, pivot);
+    update_reduced_costs(s, q, r, dual_step);
+    swap_basic(s, r, q, bound == s.lower[leaving] ? kNonbasicLower : kNonbasicUpper, bound);
+    update_factors(s, r);
+    refactors_in_a_row = 0;
+    fresh = false;
+    ++s.counters.iterations;
+    ++s.counters.dual_iterations;
+    s.dj_last = s.d[leaving];
+    log_iteration(s, settings, units);
+
+    degenerate = dual_step != 0.0 ? 0 : degenerate + 1;
+    if (degenerate == kStallBeforePerturb) perturb_costs(s);
+    if (degenerate >= stall_limit) {
+      s.stall_count = degenerate;
+      return kExitStalled;
+    }
+  }
+}
+
+}  // namespace tarvo::lp

@@ -1,0 +1,150 @@
+// The primal simplex method: phase 1 minimizes the sum of infeasibilities of the basic
+// variables (their costs are the gradient of that sum), phase 2 the objective. Devex partial
+// pricing, Harris ratio test with bound flips, bound perturbation against stalling.
+#include <cmath>
+
+#include "lp/simplex_tolerances.h"
+#include "lp/simplex_work.h"
+
+namespace tarvo::lp {
+
+namespace {
+
+// Fresh factors, primal values, phase and reduced costs.
+int refresh(SimplexState& s, const SimplexSettings& settings, Units& units, bool refactor) {
+  if (refactor) {
+    const int code = factorize_basis(s, settings, units);
+    if (code != kExitOptimal) return code;
+  }
+  compute_primal_values(s);
+  measure_infeasibility(s, settings.feasibility_tol);
+  const int phase = s.ninf > 0 ? 1 : 2;
+  if (phase != s.phase) reset_primal_weights(s);
+  s.phase = phase;
+  set_basic_costs(s, settings.feasibility_tol);
+  compute_duals(s);
+  return kExitOptimal;
+}
+
+// Widens the bounds of the basic variables a little, at random, so that ties in the ratio test
+// are broken and a degenerate vertex can be left.
+void perturb_bounds(SimplexState& s) {
+  for (int p = 0; p < s.m; ++p) {
+    const int j = s.head[p];
+    if (std::isfinite(s.lower[j]))
+      s.lower[j] -= (kPerturbRelative * std::fabs(s.lower[j]) + kPerturbAbsolute) * (1.0 + next_random(s));
+    if (std::isfinite(s.upper[j]))
+      s.upper[j] += (kPerturbRelative * std::fabs(s.upper[j]) + kPerturbAbsolute) * (1.0 + next_random(s));
+  }
+  s.bounds_perturbed = true;
+}
+
+void move_basics(SimplexState& s, double delta) {
+  const SparseVector& alpha = s.column;
+  for (int t = 0; t < alpha.count; ++t) {
+    const int p = alpha.index[t];
+    s.x[s.head[p]] -= delta * alpha.value[p];
+  }
+}
+
+}  // namespace
+
+int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
+  const double tol = settings.feasibility_tol;
+  int code = refresh(s, settings, units, !s.factors_valid);
+  if (code != kExitOptimal) return code;
+  reset_primal_weights(s);
+  if (s.stop_when_feasible && s.phase == 2) return kExitOptimal;
+  bool fresh = true;  // x and d were just computed from the factors, not updated
+  int degenerate = 0;
+  int refactors_in_a_row = 0;
+  const int stall_limit = kStallLimitBase + 2 * s.m;
+
+  while (true) {
+    if (s.refactor_due || s.updates >= settings.factor_frequency) {
+      if (++refactors_in_a_row > kRefactorsInARow) return kExitRefactorTwice;
+      code = refresh(s, settings, units, true);
+      if (code != kExitOptimal) return code;
+      fresh = true;
+    }
+    const int q = choose_entering(s, settings);
+    if (q < 0) {
+      if (!fresh) {
+        code = refresh(s, settings, units, false);
+        fresh = true;
+        continue;
+      }
+      if (s.phase == 1) return kExitInfeasible;
+      return kExitOptimal;
+    }
+    if (s.counters.iterations >= settings.iteration_limit) return kExitIterations;
+
+    const int direction = s.entering_direction;
+    load_column(s, q, s.column);
+    lu_ftran(s.lu, s.column, true);
+    const PrimalStep step = s.phase == 1 ? phase_one_ratio_test(s, q, direction, settings)
+                                         : primal_ratio_test(s, q, direction, settings);
+    if (step.rejected) {
+      s.rejected[q] = s.counters.iterations + 1;
+      continue;
+    }
+    if (step.unbounded) {
+      if (!fresh || s.phase == 1) {
+        if (s.phase == 1 && fresh) return kExitNumerical;
+        s.refactor_due = true;
+        continue;
+      }
+      return kExitUnbounded;
+    }
+    const double delta = direction * step.step;
+    s.step_last = step.step;
+    s.pivot_last = step.flip ? 0.0 : s.column.value[step.position];
+    if (step.flip) {
+      s.x[q] += delta;
+      move_basics(s, delta);
+      s.state[q] = direction > 0 ? kNonbasicUpper : kNonbasicLower;
+      s.x[q] = direction > 0 ? s.upper[q] : s.lower[q];
+      ++s.counters.bound_flips;
+    } else {
+      const int r = step.position;
+      const double pivot = s.column.value[r];
+      load_unit_row(s, r);
+      lu_btran(s.lu, s.rho);
+      compute_pivot_row(s);
+      if (std::fabs(s.pivot_row[q] - pivot) > kPivotMismatch * (1.0 + std::fabs(pivot))) {
+        s.refactor_due = true;
+        continue;
+      }
+      s.x[q] += delta;
+      move_basics(s, delta);
+      update_primal_weights(s, q, r, pivot);
+      update_reduced_costs(s, q, r, s.d[q] / pivot);
+      swap_basic(s, r, q, step.leaving_state, step.leaving_value);
+      update_factors(s, r);
+    }
+    refactors_in_a_row = 0;
+    fresh = false;
+    ++s.counters.iterations;
+    ++s.counters.primal_iterations;
+
+    if (s.phase == 1) {
+      measure_infeasibility(s, tol);
+      if (s.ninf == 0) {
+        if (s.stop_when_feasible) return kExitOptimal;
+        s.phase = 2;
+        reset_primal_weights(s);
+      }
+      if (set_basic_costs(s, tol)) compute_duals(s);
+    }
+    log_iteration(s, settings, units);
+
+    degenerate = step.step > 0.0 ? 0 : degenerate + 1;
+    if (degenerate >= kStallBeforePerturb && !s.bounds_perturbed) perturb_bounds(s);
+    if (degenerate >= stall_limit) {
+      s.stall_count = degenerate;
+      return kExitStalled;
+    }
+  }
+}
+
+}  // namespace tarvo::lp

@@ -1,0 +1,169 @@
+// The working problem: a scaled, 0-based copy of a slot with the objective row taken out as the
+// cost vector, and the way back from its solution to the slot's arrays.
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+#include "lp/simplex_work.h"
+
+namespace tarvo::lp {
+
+namespace {
+
+constexpr double kInf = std::numeric_limits<double>::infinity();
+
+double working_lower(double bound, double scale) { return bound <= -kInfiniteBound ? -kInf : bound / scale; }
+double working_upper(double bound, double scale) { return bound >= kInfiniteBound ? kInf : bound / scale; }
+
+int objective_row_of(const ProblemSlot& slot) { return slot.iobj >= 1 && slot.iobj <= slot.m ? slot.iobj : 0; }
+
+// The row-wise copy of the column-wise matrix.
+void build_row_copy(SimplexState& s) {
+  std::fill(s.row_start.begin(), s.row_start.begin() + s.m + 1, 0);
+  const int ne = s.col_start[s.n];
+  for (int k = 0; k < ne; ++k) ++s.row_start[s.row_index[k] + 1];
+  for (int i = 0; i < s.m; ++i) s.row_start[i + 1] += s.row_start[i];
+  std::vector<int>& next = s.candidate;  // free until the first ratio test
+  std::copy(s.row_start.begin(), s.row_start.begin() + s.m, next.begin());
+  for (int j = 0; j < s.n; ++j) {
+    for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k) {
+      const int slot_k = next[s.row_index[k]]++;
+      s.col_index[slot_k] = j;
+      s.row_value[slot_k] = s.value[k];
+    }
+  }
+}
+
+}  // namespace
+
+// The constraint part (every row but the objective) equal to what the scaled copy was made from.
+bool slot_matrix_unchanged(const SimplexState& s, const ProblemSlot& slot, int scale_option) {
+  if (!s.matrix_valid || s.source_m != slot.m || s.source_n != slot.n || s.source_ne != slot.ne ||
+      s.source_objective_row != objective_row_of(slot) || s.source_scale_option != scale_option)
+    return false;
+  if (std::memcmp(s.source_ka.data(), slot.ka.data() + 1, sizeof(int) * (slot.n + 1)) != 0) return false;
+  if (std::memcmp(s.source_ha.data(), slot.ha.data() + 1, sizeof(int) * slot.ne) != 0) return false;
+  const int iobj = objective_row_of(slot);
+  for (int k = 0; k < slot.ne; ++k)
+    if (s.source_a[k] != slot.a[k + 1] && slot.ha[k + 1] != iobj) return false;
+  return true;
+}
+
+void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings,
+                         bool keep_scales) {
+  const int iobj = objective_row_of(slot);
+  s.objective_row = iobj;
+  s.n = slot.n;
+  s.m = 0;
+  for (int i = 1; i <= slot.m; ++i) {
+    if (i == iobj) {
+      s.work_row[i] = -1;
+      continue;
+    }
+    s.work_row[i] = s.m;
+    s.slot_row[s.m++] = i;
+  }
+  // Entries repeated within a column add up (the factorization takes each row once).
+  int* last = s.candidate.data();  // position of each row's entry in the current column
+  std::fill(last, last + s.m, -1);
+  int ne = 0;
+  for (int j = 0; j < s.n; ++j) {
+    s.col_start[j] = ne;
+    for (int k = slot.ka[j + 1]; k < slot.ka[j + 2]; ++k) {
+      const int i = slot.ha[k];
+      if (i == iobj || i < 1 || i > slot.m || slot.a[k] == 0.0) continue;
+      const int r = s.work_row[i];
+      if (last[r] >= s.col_start[j]) {
+        s.value[last[r]] += slot.a[k];
+        continue;
+      }
+      last[r] = ne;
+      s.row_index[ne] = r;
+      s.value[ne++] = slot.a[k];
+    }
+  }
+  s.col_start[s.n] = ne;
+
+  s.source_m = slot.m;
+  s.source_n = slot.n;
+  s.source_ne = slot.ne;
+  s.source_objective_row = iobj;
+  s.source_scale_option = settings.scale_option;
+  std::copy(slot.ka.begin() + 1, slot.ka.begin() + slot.n + 2, s.source_ka.begin());
+  std::copy(slot.ha.begin() + 1, slot.ha.begin() + slot.ne + 1, s.source_ha.begin());
+  std::copy(slot.a.begin() + 1, slot.a.begin() + slot.ne + 1, s.source_a.begin());
+
+  if (!keep_scales) compute_scales(s, settings);
+  for (int j = 0; j < s.n; ++j) {
+    for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k)
+      s.value[k] *= s.scale[j] / s.scale[s.n + s.row_index[k]];
+  }
+  build_row_copy(s);
+  s.matrix_valid = true;
+  s.factors_valid = false;
+  s.dual_weights_valid = false;
+}
+
+void load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings) {
+  const int nt = s.n + s.m;
+  s.sense = settings.sense;
+  std::fill(s.base_cost.begin(), s.base_cost.begin() + nt, 0.0);
+  if (s.objective_row > 0) {
+    for (int j = 0; j < s.n; ++j)
+      for (int k = slot.ka[j + 1]; k < slot.ka[j + 2]; ++k)
+        if (slot.ha[k] == s.objective_row) s.base_cost[j] += s.sense * slot.a[k] * s.scale[j];
+  }
+  for (int j = 0; j < nt; ++j) {
+    const int k = j < s.n ? j + 1 : slot.n + s.slot_row[j - s.n];
+    s.base_lower[j] = working_lower(slot.bl[k], s.scale[j]);
+    s.base_upper[j] = working_upper(slot.bu[k], s.scale[j]);
+  }
+  std::copy(s.base_cost.begin(), s.base_cost.begin() + nt, s.cost.begin());
+  std::copy(s.base_lower.begin(), s.base_lower.begin() + nt, s.lower.begin());
+  std::copy(s.base_upper.begin(), s.base_upper.begin() + nt, s.upper.begin());
+  s.costs_shifted = false;
+  s.bounds_perturbed = false;
+}
+
+// Unscales the working solution into the slot: xn (columns, then each row's logical, which is
+// minus the row activity), pi = d obj / d row limit, rc = c - A^T pi, hs, ninf, sinf, obj.
+void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_duals) {
+  const double sense = phase_one_duals ? 1.0 : s.sense;
+  double activity = 0.0;  // of the objective row
+  for (int j = 0; j < s.n + s.m; ++j) {
+    const int k = j < s.n ? j + 1 : slot.n + s.slot_row[j - s.n];
+    int hs = kAtLower;
+    double value = s.x[j] * s.scale[j];
+    switch (s.state[j]) {
+      case kBasicVar: hs = kBasic; break;
+      case kSuperbasicVar: hs = kSuperbasic; break;
+      case kNonbasicUpper:
+        hs = kAtUpper;
+        value = slot.bu[k];
+        break;
+      case kNonbasicLower: value = slot.bl[k]; break;
+      default: value = 0.0; break;
+    }
+    slot.hs[k] = hs;
+    slot.xn[k] = value;
+    if (j < s.n) {
+      slot.rc[k] = sense * s.d[j] / s.scale[j];
+      if (s.base_cost[j] != 0.0) activity += s.sense * s.base_cost[j] / s.scale[j] * value;
+    } else {
+      slot.pi[s.slot_row[j - s.n]] = sense * s.y[j - s.n] / s.scale[j];
+    }
+  }
+  if (s.objective_row > 0) {
+    slot.pi[s.objective_row] = 0.0;
+    slot.hs[slot.n + s.objective_row] = kBasic;
+    slot.xn[slot.n + s.objective_row] = -activity;
+  }
+  slot.ns = 0;
+  for (int j = 0; j < s.n + s.m; ++j) slot.ns += s.state[j] == kSuperbasicVar;
+  slot.ninf = s.ninf;
+  slot.sinf = s.sinf;
+  slot.obj = activity + s.nonlinear_objective + slot.objadd;
+}
+
+}  // namespace tarvo::lp

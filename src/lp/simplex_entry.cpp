@@ -1,0 +1,267 @@
+// The optimizer's entry: options and workspace, the start word, the choice between the primal
+// and the dual method, and the solution handed back to the slot.
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+
+#include "lp/simplex_tolerances.h"
+#include "lp/simplex_work.h"
+
+namespace tarvo::lp {
+
+namespace {
+
+enum class StartKind { cold, warm, hot };
+
+struct StartMode {
+  StartKind kind = StartKind::cold;
+  bool keep_factors = false;
+  bool keep_hessian = false;
+  bool keep_scales = false;
+};
+
+// First letter C or B cold, W warm, H hot. A hot word of at most four characters keeps the
+// factors, the reduced Hessian and the scales; a longer one keeps those whose letters (F, H, S)
+// stand in its fifth and later characters.
+StartMode interpret_start(std::string_view word, const SimplexSettings& settings, Units& units) {
+  StartMode mode;
+  const char first = word.empty() ? ' ' : static_cast<char>(std::toupper(static_cast<unsigned char>(word[0])));
+  switch (first) {
+    case 'C':
+    case 'B': return mode;
+    case 'W': mode.kind = StartKind::warm; return mode;
+    case 'H': break;
+    default: write_start_not_recognized(word, settings, units); return mode;
+  }
+  mode.kind = StartKind::hot;
+  std::string_view trimmed = word;
+  while (!trimmed.empty() && trimmed.back() == ' ') trimmed.remove_suffix(1);
+  if (trimmed.size() <= 4) {
+    mode.keep_factors = mode.keep_hessian = mode.keep_scales = true;
+    return mode;
+  }
+  for (char c : trimmed.substr(4)) {
+    c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    mode.keep_factors |= c == 'F';
+    mode.keep_hessian |= c == 'H';
+    mode.keep_scales |= c == 'S';
+  }
+  return mode;
+}
+
+// Takes the basis the slot and the kept state allow. Returns true when the kept factors still
+// belong to it.
+bool prepare_basis(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings, StartMode mode,
+                   bool matrix_kept) {
+  if (mode.kind == StartKind::cold) {
+    std::fill(s.state.begin(), s.state.begin() + s.n + s.m, static_cast<signed char>(kNonbasicLower));
+    if (settings.crash_option > 0) crash_basis(s, settings.crash_option, settings.crash_tol);
+    else slack_basis(s);
+    return false;
+  }
+  const bool reuse = matrix_kept && s.factors_valid && head_matches_slot(s, slot) &&
+                     (mode.kind == StartKind::warm || mode.keep_factors);
+  basis_from_slot(s, slot, reuse);
+  return reuse;
+}
+
+// Solves the working problem from the prepared basis: the primal method from a primal feasible
+// basis, the dual method (shifting costs where the basis is not dual feasible) otherwise; then
+// takes perturbations and shifts away and cleans up with whichever method the remaining
+// infeasibilities call for. An infeasible problem always ends with a primal phase 1, so that its
+// duals are those of the sum of infeasibilities.
+int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Units& units) {
+  const double tol = settings.feasibility_tol;
+  if (!s.factors_valid) {
+    const int code = factorize_basis(s, settings, units);
+    if (code != kExitOptimal) return code;
+  }
+  int code = kExitOptimal;
+  for (int round = 0; round < 4; ++round) {
+    compute_primal_values(s);
+    measure_infeasibility(s, tol);
+    s.phase = 2;
+    set_basic_costs(s, tol);
+    compute_duals(s);
+    const bool dual_feasible = count_dual_infeasible(s, settings.optimality_tol) == 0;
+    if (s.ninf == 0 && dual_feasible) {
+      code = kExitOptimal;
+      break;
+    }
+    if (s.ninf == 0) {
+      code = run_primal(s, settings, units);
+    } else {
+      code = run_dual(s, settings, units);
+      if (code == kExitInfeasible) {
+        restore_costs(s);
+        code = run_primal(s, settings, units);
+      }
+    }
+    if (code != kExitOptimal) break;
+    if (!s.costs_shifted && !s.bounds_perturbed) break;
+    restore_costs(s);
+    restore_bounds(s);
+  }
+  if (s.costs_shifted) restore_costs(s);
+  if (s.bounds_perturbed) restore_bounds(s);
+  // Final values from the factors, with the duals of the objective (or of the sum of
+  // infeasibilities when infeasible).
+  if (s.factors_valid) {
+    compute_primal_values(s);
+    measure_infeasibility(s, tol);
+    s.phase = code == kExitInfeasible ? 1 : 2;
+    for (int p = 0; p < s.m; ++p) s.basic_cost[p] = std::nan("");
+    set_basic_costs(s, tol);
+    compute_duals(s);
+    if (code == kExitInfeasible && s.ninf == 0) code = kExitNumerical;
+  }
+  return code;
+}
+
+int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settings, Units& units, StartMode mode,
+               const Regularization& regularization) {
+  s.counters = SimplexCounters{};
+  s.log_header_written = false;
+  s.partial_start = 0;
+  s.stall_count = 0;
+  s.objadd = slot.objadd;
+  const bool matrix_kept = slot_matrix_unchanged(s, slot, settings.scale_option);
+  if (!matrix_kept) {
+    const bool same_shape = s.matrix_valid && s.source_m == slot.m && s.source_n == slot.n &&
+                            s.source_scale_option == settings.scale_option;
+    const bool keep_scales = same_shape && mode.kind == StartKind::hot && mode.keep_scales;
+    load_working_matrix(s, slot, settings, keep_scales);
+    s.counters.reused_scales = keep_scales;
+  } else {
+    s.counters.reused_scales = true;
+  }
+  load_costs_and_bounds(s, slot, settings);
+  s.counters.reused_factors = prepare_basis(s, slot, settings, mode, matrix_kept);
+  if (!s.counters.reused_factors) {
+    s.factors_valid = false;
+    s.dual_weights_valid = false;
+  }
+  s.quadratic = slot.nnobj > 0;
+  s.nonlinear_objective = 0.0;
+  const int code = s.quadratic ? run_reduced_gradient(s, settings, units, regularization)
+                               : solve_working_problem(s, settings, units);
+  if (s.quadratic && s.factors_valid && code != kExitInfeasible) {
+    // Duals and reduced gradients of the final point, with the true costs kept in base_cost.
+    compute_primal_values(s);
+    evaluate_quadratic_gradient(s, regularization);
+  }
+  store_solution(s, slot, code == kExitInfeasible);
+  if (code != kExitOptimal) return code;
+  // Optimal or near-optimal: the largest reduced gradient against the size of the duals.
+  double reference = 1.0;
+  for (int i = 0; i < s.m; ++i) reference = std::max(reference, std::fabs(s.y[i]));
+  s.optimality_ratio = max_dual_infeasibility(s) / reference;
+  return s.optimality_ratio < kNearOptimalRatio ? kExitOptimal : kExitNearOptimal;
+}
+
+}  // namespace
+
+void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
+  s.mmax = mmax;
+  s.nmax = nmax;
+  s.nemax = nemax;
+  const int nt = mmax + nmax;
+  s.slot_row.assign(mmax, 0);
+  s.work_row.assign(mmax + 1, -1);
+  s.col_start.assign(nmax + 1, 0);
+  s.row_index.assign(nemax, 0);
+  s.value.assign(nemax, 0.0);
+  s.row_start.assign(mmax + 1, 0);
+  s.col_index.assign(nemax, 0);
+  s.row_value.assign(nemax, 0.0);
+  for (auto* v : {&s.cost, &s.base_cost, &s.lower, &s.upper, &s.base_lower, &s.base_upper, &s.scale, &s.x, &s.d,
+                  &s.primal_weight, &s.pivot_row, &s.candidate_ratio, &s.hessian_diag, &s.centre, &s.search})
+    v->assign(nt, 0.0);
+  std::fill(s.scale.begin(), s.scale.end(), 1.0);
+  s.col_scale_work.assign(nmax, 1.0);
+  s.row_scale_work.assign(mmax, 1.0);
+  s.row_min_work.assign(mmax, 0.0);
+  s.source_ka.assign(nmax + 1, 0);
+  s.source_ha.assign(nemax, 0);
+  s.source_a.assign(nemax, 0.0);
+  s.head.assign(mmax, 0);
+  s.saved_head.assign(mmax, 0);
+  s.position.assign(nt, -1);
+  s.state.assign(nt, kNonbasicLower);
+  s.y.assign(mmax, 0.0);
+  s.basic_cost.assign(mmax, 0.0);
+  s.dual_weight.assign(mmax, 1.0);
+  s.pivot_index.assign(nt, 0);
+  s.pivot_mark.assign(nt, 0);
+  s.candidate.assign(nt, 0);
+  s.rejected.assign(nt, -1);
+  s.flipped.assign(nt, 0);
+  s.superbasic.assign(nt, 0);
+  s.regobj_x.assign(nmax + 1, 0.0);
+  s.regobj_g.assign(nmax + 1, 0.0);
+  for (auto* v : {&s.column, &s.rho, &s.tau, &s.work}) sparse_resize(*v, mmax);
+}
+
+int simplex_workspace_needed(int m, int n, int ne) {
+  (void)m;
+  (void)n;
+  return 2 * ne;
+}
+
+std::string_view solve_status_word(int status) {
+  static constexpr std::string_view kWords[] = {"PROCEEDING  ", "OPTIMAL SOLN", "INFEASIBLE  ",
+                                                "UNBOUNDED   ", "EXCESS ITNS ", "ERROR CONDN"};
+  return kWords[std::clamp(status, 0, 5)];
+}
+
+SimplexSettings settings_from_options(const Options& o) {
+  SimplexSettings t;
+  t.feasibility_tol = o.rval[kFeasibilityTolerance];
+  t.optimality_tol = o.rval[kOptimalityTolerance];
+  t.pivot_tol = o.rval[kPivotTolerance];
+  t.partial_price = o.ival[kPartialPrice];
+  t.crash_option = o.ival[kCrashOption];
+  t.crash_tol = o.rval[kCrashTolerance];
+  t.scale_option = o.ival[kScaleOption];
+  t.scale_tol = o.rval[kScaleTolerance];
+  t.factor_frequency = std::max(1, o.ival[kFactorizationFrequency]);
+  t.iteration_limit = o.ival[kIterationLimit];
+  t.log_frequency = o.ival[kLogFrequency];
+  t.summary_frequency = o.ival[kSummaryFrequency];
+  t.print_level = o.ival[kPrintLevel];
+  t.print_unit = o.ival[kPrintFile];
+  t.summary_unit = o.ival[kSummaryFile];
+  t.superbasics_limit = o.ival[kSuperbasicsLimit];
+  t.sense = o.ival[kObjectiveSense] == -1 ? -1.0 : 1.0;
+  t.lu.factor_tol = o.rval[kLuFactorTolerance];
+  t.lu.update_tol = o.rval[kLuUpdateTolerance];
+  t.lu.density_tol = o.rval[kLuDensityTolerance];
+  t.lu.singularity_tol = o.rval[kLuSingularityTolerance];
+  t.lu.max_updates = t.factor_frequency;
+  return t;
+}
+
+int optimizer_solve(SimplexState& state, Options& options, Units& units, ProblemSlot& slot, std::string_view start,
+                    const std::array<Name8, 5>& names, int nwcore, const Regularization& regularization) {
+  state.slot_m = slot.m;
+  state.slot_n = slot.n;
+  state.slot_ne = slot.ne;
+  state.nncon = slot.nncon;
+  state.nnobj = slot.nnobj;
+  state.nnjac = slot.nnjac;
+  state.nwcore = nwcore;
+  set_problem_counts(options, slot.nncon, slot.nnobj, slot.nnjac);
+  apply_defaults(options, units, 2);
+  slot.mincor = simplex_workspace_needed(slot.m, slot.n, slot.ne);
+  if (slot.mincor > nwcore) return kExitWorkspace;
+  apply_defaults(options, units, 3);
+  state.problem_name = names[0].c;
+  const SimplexSettings settings = settings_from_options(options);
+  const StartMode mode = interpret_start(start, settings, units);
+  const int inform = solve_slot(state, slot, settings, units, mode, regularization);
+  write_exit_message(inform, state.stall_count, settings.superbasics_limit, settings, units);
+  write_final_summary(state, slot, settings, units);
+  return inform;
+}
+
+}  // namespace tarvo::lp

@@ -1,0 +1,45 @@
+#pragma once
+// Every fixed tolerance and limit of the simplex method, in one place. The tolerances the user
+// sets (feasibility, optimality, pivot, crash, scale, LU) come from the options instead.
+
+namespace tarvo::lp {
+
+// Values of this size in working (scaled) units are treated as zero in solves and updates.
+inline constexpr double kZeroTolerance = 1.0e-14;
+// Entries of a transformed column below this are not pivot candidates in a ratio test even when
+// the pivot tolerance is smaller.
+inline constexpr double kRatioPivotFloor = 1.0e-9;
+// Relative disagreement between the pivot computed from the column and from the row above which
+// the factors are considered inaccurate and recomputed.
+inline constexpr double kPivotMismatch = 1.0e-8;
+// Devex and dual steepest edge weights are restarted when one grows beyond this.
+inline constexpr double kWeightResetLimit = 1.0e6;
+inline constexpr double kWeightFloor = 1.0e-4;
+// Iterations with no objective progress before bounds (primal) or costs (dual) are perturbed.
+inline constexpr int kStallBeforePerturb = 50;
+// Relative and absolute size of a perturbation.
+inline constexpr double kPerturbRelative = 1.0e-6;
+inline constexpr double kPerturbAbsolute = 1.0e-7;
+// Iterations with no objective progress after perturbation before the solve gives up (exit 4):
+// this count plus twice the number of rows.
+inline constexpr int kStallLimitBase = 5000;
+// The pivot row is formed row by row while the row of the inverse has at most this share of
+// nonzeros, and column by column beyond it.
+inline constexpr double kRowwiseDensity = 0.1;
+// Optimal and near-optimal are told apart at this ratio of the reduced-gradient norm to the
+// reference norm: the single-precision 0.1 widened to double, compared in double precision.
+inline constexpr double kNearOptimalRatio = 0.10000000149011612;
+// The Harris ratio tests relax bounds by this multiple of the feasibility (primal) or optimality
+// (dual) tolerance in their first pass.
+inline constexpr double kHarrisRelax = 1.0;
+// A problem whose sum of infeasibilities is below this multiple of the feasibility tolerance per
+// infeasible variable is taken as feasible when a phase 1 stops.
+inline constexpr double kPhaseOneSlack = 1.0;
+// Scaling: at most this many geometric-mean passes, and scale factors kept within these limits.
+inline constexpr int kScalePasses = 20;
+inline constexpr double kScaleMin = 1.0e-10;
+inline constexpr double kScaleMax = 1.0e10;
+// Refactorizations in a row without an iteration in between before exit 12.
+inline constexpr int kRefactorsInARow = 3;
+
+}  // namespace tarvo::lp

@@ -1,0 +1,133 @@
+#pragma once
+// Internals shared by the simplex files: the settings of one solve taken from the options, the
+// exit codes, and the operations on the working problem and its basis.
+#include <cmath>
+
+#include "lp/simplex.h"
+
+namespace tarvo::lp {
+
+// Exit codes (inform).
+inline constexpr int kExitOptimal = 0;
+inline constexpr int kExitInfeasible = 1;
+inline constexpr int kExitUnbounded = 2;
+inline constexpr int kExitIterations = 3;
+inline constexpr int kExitStalled = 4;
+inline constexpr int kExitSuperbasicsLimit = 5;
+inline constexpr int kExitCannotImprove = 9;
+inline constexpr int kExitNumerical = 10;
+inline constexpr int kExitRefactorTwice = 12;
+inline constexpr int kExitNearOptimal = 13;
+inline constexpr int kExitFactorStorage = 20;
+inline constexpr int kExitBasisError = 21;
+inline constexpr int kExitWorkspace = 42;
+
+// The options as one solve uses them.
+struct SimplexSettings {
+  double feasibility_tol = 1.0e-6;
+  double optimality_tol = 1.0e-6;
+  double pivot_tol = 3.25e-11;
+  int partial_price = 10;
+  int crash_option = 3;
+  double crash_tol = 0.1;
+  int scale_option = 2;
+  double scale_tol = 0.9;
+  int factor_frequency = 100;
+  int iteration_limit = 10000;
+  int log_frequency = 100;
+  int summary_frequency = 100;
+  int print_level = 0;
+  int print_unit = 0;
+  int summary_unit = 0;
+  int superbasics_limit = 1;
+  double sense = 1.0;
+  LuSettings lu;
+};
+
+SimplexSettings settings_from_options(const Options& options);
+
+// Loading the slot into the working problem and the solution back (problem_copy.cpp).
+bool slot_matrix_unchanged(const SimplexState& s, const ProblemSlot& slot, int scale_option);
+void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings,
+                         bool keep_scales);
+void load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings);
+void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_duals);
+
+// Scale factors of the working matrix (scaling.cpp).
+void compute_scales(SimplexState& s, const SimplexSettings& settings);
+
+// Starting bases (crash.cpp).
+void slack_basis(SimplexState& s);
+void crash_basis(SimplexState& s, int option, double tolerance);
+
+// The basis and the quantities derived from it (basis.cpp).
+void basis_from_slot(SimplexState& s, const ProblemSlot& slot, bool keep_head);
+bool head_matches_slot(const SimplexState& s, const ProblemSlot& slot);
+void place_nonbasic(SimplexState& s, int j);
+int factorize_basis(SimplexState& s, const SimplexSettings& settings, Units& units);
+void compute_primal_values(SimplexState& s);
+bool set_basic_costs(SimplexState& s, double feasibility_tol);
+void compute_duals(SimplexState& s);
+void measure_infeasibility(SimplexState& s, double feasibility_tol);
+int count_dual_infeasible(const SimplexState& s, double optimality_tol);
+double max_dual_infeasibility(const SimplexState& s);
+double working_objective(const SimplexState& s);
+void load_column(const SimplexState& s, int j, SparseVector& v);
+void load_unit_row(SimplexState& s, int r);
+void compute_pivot_row(SimplexState& s);
+void swap_basic(SimplexState& s, int r, int q, int leaving_state, double leaving_value);
+bool update_factors(SimplexState& s, int r);
+void update_reduced_costs(SimplexState& s, int q, int r, double dual_step);
+void restore_costs(SimplexState& s);
+void restore_bounds(SimplexState& s);
+double next_random(SimplexState& s);
+
+// Pricing (pricing.cpp).
+void reset_primal_weights(SimplexState& s);
+int choose_entering(SimplexState& s, const SimplexSettings& settings);
+void update_primal_weights(SimplexState& s, int q, int r, double pivot);
+void reset_dual_weights(SimplexState& s);
+int choose_leaving(SimplexState& s, const SimplexSettings& settings);
+void update_dual_weights(SimplexState& s, int r, double pivot);
+
+// Ratio tests (ratio_test.cpp).
+struct PrimalStep {
+  int position = -1;  // basis position of the leaving variable, -1 for a bound flip or no limit
+  double step = 0.0;  // distance the entering variable moves
+  bool unbounded = false;
+  bool flip = false;
+  bool rejected = false;  // a phase-1 move beyond the entering variable's bound that gains nothing
+  int leaving_state = kNonbasicLower;
+  double leaving_value = 0.0;
+};
+PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const SimplexSettings& settings);
+PrimalStep phase_one_ratio_test(SimplexState& s, int q, int direction, const SimplexSettings& settings);
+struct DualStep {
+  int entering = -1;  // -1: no candidate, the problem is infeasible
+  double dual_step = 0.0;
+};
+DualStep dual_ratio_test(SimplexState& s, double infeasibility, const SimplexSettings& settings);
+
+// The two methods (primal_simplex.cpp, dual_simplex.cpp) and the quadratic objective
+// (reduced_gradient.cpp). Each returns an exit code.
+int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units);
+int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units);
+int run_reduced_gradient(SimplexState& s, const SimplexSettings& settings, Units& units,
+                         const Regularization& regularization);
+void evaluate_quadratic_gradient(SimplexState& s, const Regularization& regularization);
+
+// Output (simplex_log.cpp).
+void log_iteration(SimplexState& s, const SimplexSettings& settings, Units& units);
+void write_exit_message(int inform, int stall_count, int superbasics_limit,
+                        const SimplexSettings& settings, Units& units);
+void write_final_summary(const SimplexState& s, const ProblemSlot& slot,
+                         const SimplexSettings& settings, Units& units);
+void write_start_not_recognized(std::string_view word, const SimplexSettings& settings, Units& units);
+void write_factor_events(const LuReport& report, double factor_tol, int m,
+                         const SimplexSettings& settings, Units& units);
+
+inline bool is_boxed(const SimplexState& s, int j) {
+  return std::isfinite(s.lower[j]) && std::isfinite(s.upper[j]);
+}
+
+}  // namespace tarvo::lp

@@ -1,0 +1,160 @@
+// What a solve writes and returns at each exit: the message on the print and summary units, the
+// summary, the iteration log, the start word's complaint, and the workspace check.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+
+#include "simplex_test_support.h"
+
+namespace tarvo::lp::test {
+namespace {
+
+// min -x1 - x2 with x1 + x2 <= 4 (row 1), x1 - x2 >= -2 (row 2), x >= 0.
+DenseLp small_lp() {
+  DenseLp lp;
+  lp.n = 2;
+  lp.m = 2;
+  lp.c = {-1.0, -2.0};
+  lp.a = {{1.0, 1.0}, {1.0, -1.0}};
+  lp.row_lo = {-kFree, -2.0};
+  lp.row_up = {4.0, kFree};
+  lp.lo = {0.0, 0.0};
+  lp.up = {kFree, kFree};
+  return lp;
+}
+
+std::string read_file(const std::string& path) {
+  std::ifstream in(path);
+  std::stringstream text;
+  text << in.rdbuf();
+  return text.str();
+}
+
+struct ExitCase {
+  const char* name;
+  int inform;
+  const char* message;  // a line the print file must hold
+};
+
+class SimplexExit : public ::testing::TestWithParam<ExitCase> {};
+
+TEST_P(SimplexExit, WritesItsMessageToPrintAndSummaryUnits) {
+  const ExitCase& ec = GetParam();
+  DenseLp lp = small_lp();
+  Harness h;
+  if (ec.inform == 1) lp.row_lo[1] = 5.0;  // x1 - x2 >= 5 cannot meet x1 + x2 <= 4, x >= 0
+  if (ec.inform == 2) lp.row_up[0] = kFree;
+  if (ec.inform == 3) h.options.ival[kIterationLimit] = 0;
+  load_slot(lp, h.slot);
+  // One file pair per case: ctest runs the cases in parallel.
+  const std::string print = testing::TempDir() + "simplex_exit_print_" + ec.name + ".txt";
+  const std::string summary = testing::TempDir() + "simplex_exit_summary_" + ec.name + ".txt";
+  ASSERT_TRUE(open_unit(h.units, 31, print, OpenStatus::unknown));
+  ASSERT_TRUE(open_unit(h.units, 32, summary, OpenStatus::unknown));
+  h.options.ival[kPrintFile] = 31;
+  h.options.ival[kSummaryFile] = 32;
+  EXPECT_EQ(h.solve("cold"), ec.inform);
+  close_all_units(h.units);
+  for (const std::string& path : {print, summary}) {
+    const std::string text = read_file(path);
+    EXPECT_NE(text.find(std::string(ec.message) + "\n"), std::string::npos) << path << ":\n" << text;
+    EXPECT_NE(text.find("\n\n Problem name                 TEST    \n No. of iterations"), std::string::npos) << text;
+    EXPECT_NE(text.find(" No. of infeasibilities"), std::string::npos);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Exits, SimplexExit,
+    ::testing::Values(ExitCase{"optimal", 0, " EXIT -- optimal solution found"},
+                      ExitCase{"infeasible", 1, " EXIT -- the problem is infeasible"},
+                      ExitCase{"unbounded", 2, " EXIT -- the problem is unbounded  (or badly scaled)."},
+                      ExitCase{"iterations", 3, " EXIT -- too many iterations"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(SimplexEntry, TooLittleWorkspaceReturns42WithoutMessageOrSolve) {
+  Harness h;
+  load_slot(small_lp(), h.slot);
+  h.slot.obj = 123.0;
+  const std::string print = testing::TempDir() + "simplex_workspace_print.txt";
+  ASSERT_TRUE(open_unit(h.units, 31, print, OpenStatus::unknown));
+  h.options.ival[kPrintFile] = 31;
+  h.nwcore = simplex_workspace_needed(h.slot.m, h.slot.n, h.slot.ne) - 1;
+  EXPECT_EQ(h.solve("cold"), 42);
+  EXPECT_EQ(h.slot.mincor, h.nwcore + 1);
+  EXPECT_EQ(h.slot.obj, 123.0);
+  close_all_units(h.units);
+  EXPECT_EQ(read_file(print).find("EXIT"), std::string::npos);
+  // Anything within the slot's capacities fits the workspace the optimizer is given.
+  EXPECT_LE(simplex_workspace_needed(h.slot.mmax, h.slot.nmax, h.slot.nemax), 2 * h.slot.nemax);
+}
+
+TEST(SimplexEntry, UnknownStartWordIsReportedAndSolvedCold) {
+  Harness h;
+  load_slot(small_lp(), h.slot);
+  const std::string print = testing::TempDir() + "simplex_start_print.txt";
+  ASSERT_TRUE(open_unit(h.units, 31, print, OpenStatus::unknown));
+  h.options.ival[kPrintFile] = 31;
+  EXPECT_EQ(h.solve("zap"), 0);
+  EXPECT_NEAR(h.slot.obj, -7.0, 1e-12);
+  close_all_units(h.units);
+  EXPECT_NE(read_file(print).find(" XXX Start parameter not recognized:  zap\n"), std::string::npos);
+}
+
+TEST(SimplexEntry, IterationLogHasHeaderAndOneRecordPerFrequency) {
+  Harness h;
+  load_slot(small_lp(), h.slot);
+  const std::string print = testing::TempDir() + "simplex_log_print.txt";
+  ASSERT_TRUE(open_unit(h.units, 31, print, OpenStatus::unknown));
+  h.options.ival[kPrintFile] = 31;
+  h.options.ival[kLogFrequency] = 1;
+  h.options.ival[kCrashOption] = 0;
+  ASSERT_EQ(h.solve("cold"), 0);
+  close_all_units(h.units);
+  const std::string text = read_file(print);
+  const std::string header = "    Itn       dj  ninf      sinf       objective     LU\n";
+  ASSERT_NE(text.find(header), std::string::npos) << text;
+  int records = 0;
+  for (std::size_t at = text.find(header) + header.size(); at < text.size() && text[at] != '\n';
+       at = text.find('\n', at) + 1) {
+    const std::string line = text.substr(at, text.find('\n', at) - at);
+    if (line.rfind(" EXIT", 0) == 0) break;
+    EXPECT_EQ(line.size(), 55u) << line;  // i7,e9.1,i6,e10.3,e16.8,i7
+    ++records;
+  }
+  EXPECT_GT(records, 0);
+  EXPECT_EQ(records, h.state.counters.iterations);
+}
+
+// A column that names one row twice means the sum of the two values.
+TEST(SimplexEntry, RepeatedEntriesOfAColumnAddUp) {
+  Harness whole, split;
+  load_slot(small_lp(), whole.slot);
+  ASSERT_EQ(whole.solve("cold"), 0);
+  DenseLp lp = small_lp();
+  lp.a[0][1] = 0.25;  // column 2 in row 1 holds 0.25 + 0.75
+  load_slot(lp, split.slot);
+  ProblemSlot& s = split.slot;
+  const int at = s.ka[3];
+  for (int k = s.ne; k >= at; --k) {
+    s.a[k + 1] = s.a[k];
+    s.ha[k + 1] = s.ha[k];
+  }
+  s.ha[at] = 2;
+  s.a[at] = 0.75;
+  ++s.ka[3];
+  ++s.ne;
+  ASSERT_EQ(split.solve("cold"), 0);
+  EXPECT_NEAR(split.slot.obj, whole.slot.obj, 1e-12);
+}
+
+TEST(SimplexEntry, StatusWordsShowErrorsAboveFiveAsFive) {
+  EXPECT_EQ(solve_status_word(0), "PROCEEDING  ");
+  EXPECT_EQ(solve_status_word(1), "OPTIMAL SOLN");
+  EXPECT_EQ(solve_status_word(4), "EXCESS ITNS ");
+  EXPECT_EQ(solve_status_word(9), solve_status_word(5));
+}
+
+}  // namespace
+}  // namespace tarvo::lp::test

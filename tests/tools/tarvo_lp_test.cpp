@@ -1,0 +1,64 @@
+// tarvo-lp on every LP of the test set and every example core: the objective printed must match
+// the optimum listed for the test set within a relative 1e-9; env-aggr's core is infeasible.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <memory>
+#include <string>
+
+namespace {
+
+struct LpCase {
+  const char* name;
+  const char* file;     // relative to the source directory
+  int status;           // 0 optimal, 1 infeasible
+  double optimum;       // as listed with the test set (ignored when infeasible)
+};
+
+// Runs the tool and returns its last output line.
+std::string run_tool(const std::string& file) {
+  const std::string command = std::string(TARVO_LP_BINARY) + " " + TARVO_SOURCE_DIR + "/" + file + " 2>&1";
+  std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+  std::string last, line;
+  char buffer[512];
+  while (pipe && std::fgets(buffer, sizeof buffer, pipe.get())) {
+    line = buffer;
+    if (!line.empty() && line != "\n") last = line;
+  }
+  return last;
+}
+
+class TarvoLp : public ::testing::TestWithParam<LpCase> {};
+
+TEST_P(TarvoLp, SolvesToTheListedOptimum) {
+  const LpCase& c = GetParam();
+  const std::string out = run_tool(c.file);
+  int status = -1;
+  double objective = 0.0;
+  ASSERT_EQ(std::sscanf(out.c_str(), "status %d %*s objective %lf", &status, &objective), 2) << out;
+  ASSERT_EQ(status, c.status) << out;
+  if (c.status == 0) {
+    EXPECT_LE(std::fabs(objective - c.optimum), 1e-9 * std::fabs(c.optimum)) << out;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    TestSet, TarvoLp,
+    ::testing::Values(LpCase{"chem_dep", "tests/data/lp/chem-dep.mps", 0, -13009.1666667},
+                      LpCase{"env_aggr_dep", "tests/data/lp/env-aggr-dep.mps", 0, 20478.6989940},
+                      LpCase{"pltexpa2_6_dep", "tests/data/lp/pltexpa2-6-dep.mps", 0, -9.47935440464},
+                      LpCase{"fxm2_6_dep", "tests/data/lp/fxm2-6-dep.mps", 0, 18417.0655725},
+                      LpCase{"stormg2_8_dep", "tests/data/lp/stormg2-8-dep.mps", 0, 15535235.7301},
+                      LpCase{"lands3_core", "examples/lands3/MODEL.COR", 0, 209.0},
+                      LpCase{"lands3_blocks_core", "examples/lands3-blocks/MODEL.COR", 0, 209.0},
+                      LpCase{"lands_1e6_core", "examples/lands-1e6/MODEL.COR", 0, 167.0},
+                      LpCase{"chem_core", "examples/chem/MODEL.COR", 0, -89.1666666667},
+                      LpCase{"pltexpa2_6_core", "examples/pltexpa2-6/MODEL.COR", 0, -9.63},
+                      LpCase{"fxm2_6_core", "examples/fxm2-6/MODEL.COR", 0, 18416.7590283},
+                      LpCase{"stormg2_8_core", "examples/stormg2-8/MODEL.COR", 0, 11609991.6017},
+                      LpCase{"stormg2_1000_core", "examples/stormg2-1000/MODEL.COR", 0, 11609991.6017},
+                      LpCase{"env_aggr_core", "examples/env-aggr/MODEL.COR", 1, 0.0}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace
