@@ -150,9 +150,10 @@ struct Context {
 void seed_generator(Evaluation& ev, int iseed);
 
 // Sizes every array of the subsystem from the model, once, after the stochastic file has been
-// read (the universe table only when istrat asks for the universe). Sets the working sample size
-// to nsamples and the best total cost to kInfiniteCost. Writes a message and returns kErrorExit
-// when the universe cannot be enumerated.
+// read (the universe table only when istrat asks for the universe); the master's vectors in the
+// context must already have their final sizes (the incumbent's copies take them). Sets the
+// working sample size to nsamples and the best total cost to kInfiniteCost. Writes a message to
+// MODEL.ERR and returns kErrorExit when the sample table would be too large.
 int allocate_evaluation(Evaluation& ev, const Context& ctx);
 
 }  // namespace tarvo::sampling

@@ -119,7 +119,6 @@ struct ExampleModel {
 
   // Reads the example, solves its core for a first-stage proposal and sizes the evaluation.
   bool load(const std::string& name) {
-    const std::string src = std::string(TARVO_SOURCE_DIR) + "/examples/" + name + "/";
     tarvo::testing::copy_example(name, dir);
     if (lp::optimizer_init(*opt, units, 0, 0, 0) != 0) return false;
     const input::MessageUnits to{};
@@ -130,8 +129,7 @@ struct ExampleModel {
     input::allocate_outcome_store(store);
     if (input::failed(input::read_time_file(units, "MODEL.TIM", 32, 0, to, stages))) return false;
     lp::ProblemSlot& core = opt->slot[lp::kCoreSlot];
-    read = input::read_mps_file(core, opt->options, units, "MODEL.COR", 24, 0, 0);
-    if (input::failed(input::check_core_problem(core, lp::kCoreSlot, read, "MODEL.COR", units, to))) return false;
+    if (input::failed(input::read_core_problem(core, opt->options, units, 0, 0, to, 0, read))) return false;
     input::allocate_decomposition(dec, core);
     if (input::failed(input::decompose(core, stages, params.nzrows, opt->slot[1], opt->slot[2], dec, units, to)))
       return false;
@@ -150,6 +148,16 @@ struct ExampleModel {
     return true;
   }
 
+  // A cold solve of the core slot; true when optimal.
+  bool solve_core(double& obj, std::vector<double>& primal) {
+    lp::select_problem(*opt, lp::kCoreSlot);
+    int inform = 0;
+    double spare = 0.0;
+    std::vector<double> duals;
+    lp::solve_problem(*opt, units, 0, inform, 0, obj, spare, duals, spare, primal);
+    return inform == 0;
+  }
+
   // First-stage values of the core's optimum with the first-stage costs scaled column by column.
   std::vector<double> core_first_stage(const std::vector<double>& cost_scale) {
     lp::ProblemSlot& core = opt->slot[lp::kCoreSlot];
@@ -159,11 +167,9 @@ struct ExampleModel {
       for (int p = core.ka[col]; p < core.ka[col + 1]; ++p)
         if (core.ha[p] == 1) core.a[p] *= cost_scale[j];
     }
-    lp::select_problem(*opt, lp::kCoreSlot);
-    int inform = 0;
-    double obj = 0.0, spare = 0.0;
-    std::vector<double> duals, primal;
-    lp::solve_problem(*opt, units, 0, inform, 0, obj, spare, duals, spare, primal);
+    std::vector<double> primal;
+    double obj = 0.0;
+    solve_core(obj, primal);
     std::vector<double> x(dec.n1 + 1, 0.0);
     for (int j = 1; j <= dec.n1; ++j) x[j] = primal[dec.j1 + j - 1];
     return x;
@@ -191,13 +197,11 @@ struct ExampleModel {
       core.bl[core.n + r] = -lp::kInfiniteBound;
       core.bu[core.n + r] = lp::kInfiniteBound;
     }
-    lp::select_problem(*opt, lp::kCoreSlot);
-    int inform = 0;
-    double obj = 0.0, spare = 0.0;
-    std::vector<double> duals, primal;
-    lp::solve_problem(*opt, units, 0, inform, 0, obj, spare, duals, spare, primal);
+    std::vector<double> primal;
+    double obj = 0.0;
+    const bool optimal = solve_core(obj, primal);
     cost = obj - first;
-    return inform == 0;
+    return optimal;
   }
 
   // The outcome's value replaces the core's: a right-hand side by the row's type, or the element.

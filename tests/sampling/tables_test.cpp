@@ -1,4 +1,4 @@
-// Universe and marginal tables, and the division of a sample among blocks.
+// The universe table and its visiting order, and the division of a sample among blocks.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -13,26 +13,6 @@
 namespace tarvo::sampling {
 namespace {
 
-TEST(Tables, UniverseIsTheLexicographicEnumeration) {
-  testing::Harness h;
-  h.params.istrat = 4;
-  h.store = testing::make_store({{0.5, 0.5}, {0.2, 0.3, 0.5}, {0.1, 0.9}});
-  Evaluation ev;
-  ASSERT_EQ(allocate_evaluation(ev, h.context()), kOk);
-  ASSERT_EQ(univtab(h.context(), ev), kOk);
-  ASSERT_EQ(ev.nsamples, 12);
-  int k = 0;
-  for (int a = 1; a <= 2; ++a)
-    for (int b = 1; b <= 3; ++b)
-      for (int c = 1; c <= 2; ++c) {
-        ++k;
-        EXPECT_EQ(table_entry(ev, k, 1), a);
-        EXPECT_EQ(table_entry(ev, k, 2), b);
-        EXPECT_EQ(table_entry(ev, k, 3), c);
-      }
-}
-
-// The universe is solved in serpentine order: every row once, each step one block by one outcome.
 TEST(Tables, SerpentineVisitsTheUniverseOneStepAtATime) {
   testing::Harness h;
   h.params.istrat = 4;
@@ -60,32 +40,6 @@ TEST(Tables, UniverseBeyondTheTableIsRefused) {
   Evaluation ev;
   ASSERT_EQ(allocate_evaluation(ev, h.context()), kOk);
   EXPECT_EQ(univtab(h.context(), ev), kErrorExit);
-}
-
-TEST(Tables, MarginalRowsVaryOneBlockAroundTheBase) {
-  struct Case {
-    int mode;
-    int base_outcome_of_block2;  // base outcome of the 3-outcome block
-  };
-  for (const Case c : {Case{1, 1}, Case{2, 3}}) {
-    testing::Harness h;
-    h.store = testing::make_store({{0.5, 0.5}, {0.2, 0.3, 0.5}, {1.0}});
-    Evaluation ev;
-    ASSERT_EQ(allocate_evaluation(ev, h.context()), kOk);
-    margtab(h.context(), ev, c.mode);
-    ASSERT_EQ(ev.nmarg, 1 + 1 + 2 + 0);
-    EXPECT_EQ(table_entry(ev, 1, 2), c.base_outcome_of_block2);
-    for (int k = 2; k <= ev.nmarg; ++k) {
-      int differing = 0;
-      for (int b = 1; b <= 3; ++b) differing += table_entry(ev, k, b) != table_entry(ev, 1, b);
-      EXPECT_EQ(differing, 1) << "row " << k;
-    }
-    if (c.mode == 1) {
-      for (int b = 1; b <= 2; ++b)
-        for (int i = 2; i <= h.store.nsoc[b]; ++i)
-          EXPECT_EQ(table_entry(ev, marginal_row(h.store, b, i), b), i);
-    }
-  }
 }
 
 TEST(Allocate, LargestRemainders) {
