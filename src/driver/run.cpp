@@ -8,6 +8,7 @@
 #include "driver/banner.h"
 #include "driver/exit_routine.h"
 #include "driver/mode_line.h"
+#include "driver/model_phase.h"
 #include "driver/run_params_reader.h"
 #include "driver/run_state.h"
 #include "driver/timing_report.h"
@@ -60,7 +61,15 @@ int run_tarvo() {
     close_all_units(run->units);
     return 0;
   }
+  if (!prescan_model(*run)) {
+    error_exit(*run, 1);
+    return 0;
+  }
   run->evaluation_run = read_mode_line(std::cin);
+  if (!read_model(*run)) {
+    error_exit(*run, 1);
+    return 0;
+  }
   finish_run(*run);
   return 0;
 }

@@ -3,6 +3,8 @@
 #include "common/clock.h"
 #include "common/run_params.h"
 #include "common/units.h"
+#include "input/model.h"
+#include "input/mps_reader.h"
 #include "lp/optimizer.h"
 
 namespace tarvo::driver {
@@ -21,6 +23,10 @@ struct RunState {
   RunParams params;
   RunClock clock;
   lp::Optimizer optimizer;
+  input::StageNames stage_names;
+  input::MpsReadResult core_read;
+  input::Decomposition model;
+  input::OutcomeStore store;
   int model_status = 0;
   int solver_status = 0;
   bool evaluation_run = false;

@@ -50,7 +50,7 @@ void report_illegal_bound_type(ReadState& state) {
   const MpsLine& line = state.line;
   const lp::Name8 set = line.name1();
   const lp::Name8 column = line.name2();
-  line_message(state, laid_out("(a, i7, a, a, a, 2x, a, 2x, a)",
+  fault_message(state, laid_out("(a, i7, a, a, a, 2x, a, 2x, a)",
                                {" XXXX  Illegal bound type at line", line.number, "... ",
                                 line.key(), lp::name_view(set), lp::name_view(column),
                                 line.value1_field()}));
@@ -90,7 +90,7 @@ void apply_bound(lp::ProblemSlot& slot, int j, BoundType type, double value) {
 int find_bound_column(ReadState& state, const lp::Name8& name) {
   const int last = std::min(state.columns, state.slot.nmax);
   return cursor_search_reported(state.slot.names, 1, last, name, state.column_cursor, state.units,
-                                state.print_unit, state.line.number, state.settings.message_limit);
+                                fault_unit(state), state.line.number, state.settings.message_limit);
 }
 
 void read_bound_line(ReadState& state, SetChoice& set, bool& initial) {

@@ -22,15 +22,15 @@ bool column_stored(const ReadState& state) { return state.columns <= state.slot.
 void report_duplicate_entry(ReadState& state, const lp::Name8& column, const lp::Name8& row,
                             double value) {
   if (!count_fault(state, kDuplicateEntry)) return;
-  line_message(state, laid_out("(a, a, a, a, a)", {" XXXX  Column  ", lp::name_view(column),
+  fault_message(state, laid_out("(a, a, a, a, a)", {" XXXX  Column  ", lp::name_view(column),
                                                    "  has more than one entry", " in row  ",
                                                    lp::name_view(row)}));
-  line_message(state, laid_out("(a, 1p, e15.6, a, i7)", {" XXXX  Coefficient", value,
+  fault_message(state, laid_out("(a, 1p, e15.6, a, i7)", {" XXXX  Coefficient", value,
                                                         "  ignored in line", state.line.number}));
 }
 
 void report_empty_column(ReadState& state, const ColumnInProgress& column) {
-  line_message(state, laid_out("(a, a, a, i7)", {" XXXX  No valid row entries in column  ",
+  fault_message(state, laid_out("(a, a, a, i7)", {" XXXX  No valid row entries in column  ",
                                                  lp::name_view(column.name), "   after line",
                                                  column.last_line}));
 }

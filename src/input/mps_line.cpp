@@ -34,7 +34,7 @@ void list_line(ReadState& state) {
 
 void report_bad_number(ReadState& state) {
   if (!count_fault(state, kBadNumber)) return;
-  line_message(state, laid_out("(a, i7)", {" XXXX  Field is not a number -- entry ignored in line",
+  fault_message(state, laid_out("(a, i7)", {" XXXX  Field is not a number -- entry ignored in line",
                                            state.line.number}));
 }
 

@@ -12,6 +12,16 @@ void line_message(ReadState& state, std::string_view text) {
   write_if_open(state.units, state.print_unit, text);
 }
 
+int fault_unit(const ReadState& state) {
+  return unit_open(state.units, state.print_unit) ? state.print_unit : state.summary_unit;
+}
+
+// A faulty line is reported in the print file; when that is closed, where the section messages
+// go, so that a user always learns which lines were wrong.
+void fault_message(ReadState& state, std::string_view text) {
+  write_if_open(state.units, fault_unit(state), text);
+}
+
 bool count_fault(ReadState& state, LineFault fault) {
   ++state.result.errors;
   return ++state.faults[fault] <= state.settings.message_limit;
@@ -25,7 +35,7 @@ void report_over_capacity(ReadState& state, std::string_view what, int limit, in
 // An unknown row or column name: the line is skipped.
 void report_unknown_name(ReadState& state, LineFault fault, std::string_view what, const lp::Name8& name) {
   if (!count_fault(state, fault)) return;
-  line_message(state, laid_out("(a, a, a, i7)", {what, lp::name_view(name), " -- entry ignored in line",
+  fault_message(state, laid_out("(a, a, a, i7)", {what, lp::name_view(name), " -- entry ignored in line",
                                                  state.line.number}));
 }
 

@@ -112,6 +112,8 @@ bool in_chosen_set(const ReadState& state, SetChoice& set, const lp::Name8& want
 // Messages (mps_messages.cpp). Section-level ones go to the print and summary files.
 void section_message(ReadState& state, std::string_view text);
 void line_message(ReadState& state, std::string_view text);
+void fault_message(ReadState& state, std::string_view text);
+int fault_unit(const ReadState& state);
 bool count_fault(ReadState& state, LineFault fault);  // counts; true while messages may print
 void report_unknown_row(ReadState& state, const lp::Name8& name);
 void report_unknown_name(ReadState& state, LineFault fault, std::string_view what, const lp::Name8& name);

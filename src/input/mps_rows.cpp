@@ -44,14 +44,14 @@ void report_rows_card_missing(ReadState& state) {
 void report_illegal_row_type(ReadState& state) {
   if (!count_fault(state, kIllegalRowType)) return;
   const lp::Name8 name = state.line.name1();
-  line_message(state, laid_out("(a, i7, 4x, a, 2x, a)", {" XXXX  Illegal row type at line",
+  fault_message(state, laid_out("(a, i7, 4x, a, 2x, a)", {" XXXX  Illegal row type at line",
                                                          state.line.number, state.line.key(),
                                                          lp::name_view(name)}));
 }
 
 void report_duplicate_row(ReadState& state, const lp::Name8& name) {
   if (!count_fault(state, kDuplicateRow)) return;
-  line_message(state, laid_out("(a, a, a)", {" XXXX  Duplicate row name --", lp::name_view(name),
+  fault_message(state, laid_out("(a, a, a)", {" XXXX  Duplicate row name --", lp::name_view(name),
                                              " -- ignored"}));
 }
 

@@ -65,7 +65,9 @@ TEST(RunParams, ModelInpIsReadAndEchoed) {
     for (std::string line; std::getline(wanted, line);) {
       EXPECT_TRUE(contains(log, line + "\n")) << "missing: [" << line << "]\n" << log;
     }
-    EXPECT_TRUE(err.empty()) << err;
+    // Without a model the run goes on to the stochastic file and ends there.
+    EXPECT_EQ(err, " ERROR in file MODEL.STO\n");
+    EXPECT_TRUE(contains(console, "\n \n ERROR Exit\n")) << console;
   }
 }
 
