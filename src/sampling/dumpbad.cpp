@@ -1,0 +1,36 @@
+#include <string>
+
+#include "sampling/subproblem.h"
+
+namespace tarvo::sampling {
+
+namespace {
+
+constexpr int kInfeasible = 1;
+constexpr int kUnbounded = 2;
+constexpr int kModelInfeasible = 4;
+constexpr int kModelUnbounded = 3;
+constexpr int kModelError = 12;
+constexpr int kSolverFailed = 4;
+
+std::string dump_name(int problem, const char* what) {
+  return std::string(problem == lp::kMasterSlot ? "m" : "s") + what;
+}
+
+}  // namespace
+
+int dumpbad(const Context& ctx, int problem, int status) {
+  if (status == kInfeasible) {
+    ctx.model_status = kModelInfeasible;
+    dump_slot(ctx, problem, dump_name(problem, "infez.mps"));
+  } else if (status == kUnbounded) {
+    ctx.model_status = kModelUnbounded;
+    dump_slot(ctx, problem, dump_name(problem, "unbnd.mps"));
+  } else {
+    ctx.model_status = kModelError;
+  }
+  ctx.solver_status = kSolverFailed;
+  return kErrorExit;
+}
+
+}  // namespace tarvo::sampling

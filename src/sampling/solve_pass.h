@@ -1,0 +1,53 @@
+#pragma once
+// Solving the points of the sample table for one evaluation.
+//
+// The estimators are sums over the points in table order; the solves need not be. When nothing
+// is traced per point and nothing is collected for the report, the points are solved in an order
+// in which consecutive outcomes differ little, so that the warm starts are short: a sample in
+// lexicographic order of its rows (a point whose row equals the one solved just before takes that
+// point's results without a solve), the universe in serpentine order (every step changes one
+// block by one outcome). Every point's cost and dual product are stored, and the estimators then
+// run in table order, so the estimates do not depend on the order of the solves.
+#include "sampling/evaluation.h"
+
+namespace tarvo::sampling {
+
+// How a point's solution enters the report accumulators when ev.collect is 1.
+enum class CollectRule {
+  none,
+  mean,        // weight 1/rows
+  scenario,    // weight = the scenario probability
+  importance,  // weight deltabar_b / N_b of the point's block, none when Gamma(omega) is 0
+  base_copy,   // point 1 is copied
+};
+
+enum class Visit {
+  table,       // rows 1, 2, ... as they stand
+  sorted,      // lexicographic order of the rows
+  serpentine,  // the universe table (all combinations, last block fastest) in reflected order
+};
+
+struct PassPlan {
+  int rows = 0;         // points 1..rows of the sample table
+  int cost_offset = 0;  // the cost of point k goes to ev.costs[k + cost_offset]
+  int mode = 1;         // subeval mode (3: with the scenario probability)
+  Visit visit = Visit::table;
+  CollectRule collect = CollectRule::none;
+};
+
+// Solves the plan's points, storing costs and dual products (point_u). When a point is infeasible
+// the pass stops; ev.infeasible_point is then the lowest-numbered infeasible point (points before
+// it that a reordered pass had not reached are solved to find it), else 0.
+int solve_points(const Context& ctx, Evaluation& ev, const PassPlan& plan, int& startflag);
+
+// ev.order[1..plan.rows] := the order in which a pass that may reorder visits the points.
+void order_points(const Context& ctx, Evaluation& ev, const PassPlan& plan);
+
+// Zeroes the report accumulators.
+void clear_accumulators(Evaluation& ev);
+
+// After a pass that stopped on an infeasible point: writes "sub infeasible" and leaves the
+// feasibility cut of that point.
+void end_on_infeasible(const Context& ctx, Evaluation& ev, const PassPlan& plan);
+
+}  // namespace tarvo::sampling

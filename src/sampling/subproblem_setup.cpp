@@ -1,0 +1,100 @@
+#include <string>
+
+#include "common/free_format.h"
+#include "sampling/coupling.h"
+#include "sampling/subproblem.h"
+
+namespace tarvo::sampling {
+
+namespace {
+
+constexpr int kRhs = -2;
+constexpr int kCoupling = -3;
+constexpr int kUpper = -11;
+constexpr int kLower = -12;
+constexpr int kFixed = -13;
+
+void copy_base_data(const Context& ctx, Evaluation& ev) {
+  const input::Decomposition& d = ctx.model;
+  for (int p = 1; p <= d.b_nonzeros; ++p) ev.b_work[p] = d.b[p];
+  for (int i = 1; i <= ev.m2; ++i) ev.rhs_work[i] = d.h[i];
+}
+
+// Zeroes the location that a parameter of this kind names; false for an unknown kind.
+bool reset_location(lp::ProblemSlot& sub, Evaluation& ev, int kind, int at) {
+  if (kind >= -1) {
+    sub.a[at] = 0.0;
+  } else if (kind == kRhs) {
+    ev.rhs_work[at] = 0.0;
+  } else if (kind == kCoupling) {
+    ev.b_work[at] = 0.0;
+  } else if (kind == kUpper) {
+    sub.bu[at] = 0.0;
+  } else if (kind == kLower) {
+    sub.bl[at] = 0.0;
+  } else if (kind == kFixed) {
+    sub.bl[at] = 0.0;
+    sub.bu[at] = 0.0;
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// Adds the value at the zeroed location, so that the outcome replaces the core value and two
+// parameters at one location add up. C is held negated, hence the subtraction.
+void apply_value(lp::ProblemSlot& sub, Evaluation& ev, int kind, int at, double v) {
+  if (kind >= -1) {
+    sub.a[at] += v;
+  } else if (kind == kRhs) {
+    ev.rhs_work[at] += v;
+  } else if (kind == kCoupling) {
+    ev.b_work[at] -= v;
+  } else if (kind == kUpper) {
+    sub.bu[at] += v;
+  } else if (kind == kLower) {
+    sub.bl[at] += v;
+  } else {
+    sub.bl[at] += v;
+    sub.bu[at] += v;
+  }
+}
+
+void write_rhs_trace(const Context& ctx, const Evaluation& ev) {
+  write_free(ctx.units, ctx.log_unit, "     BV,      BVW,    B*X");
+  for (int i = 1; i <= ev.m2; ++i) {
+    write_free(ctx.units, ctx.log_unit, i, ctx.model.h[i], ev.rhs_work[i], ev.coupled[i]);
+  }
+}
+
+// The row logical carries the negated activity; both finite limits go to -r, so a ranged or
+// two-sided row becomes an equality.
+void set_row_limits(lp::ProblemSlot& sub, const Evaluation& ev) {
+  for (int i = 1; i <= ev.m2; ++i) {
+    const int logical = sub.n + i;
+    if (sub.bl[logical] > -lp::kInfiniteBound) sub.bl[logical] = -ev.coupled[i];
+    if (sub.bu[logical] < lp::kInfiniteBound) sub.bu[logical] = -ev.coupled[i];
+  }
+}
+
+}  // namespace
+
+int subsetup(const Context& ctx, Evaluation& ev) {
+  lp::ProblemSlot& sub = ctx.optimizer.slot[lp::kSubproblemSlot];
+  const input::OutcomeStore& store = ctx.store;
+  copy_base_data(ctx, ev);
+  for (int e = 1; e <= ev.nentries; ++e) {
+    if (!reset_location(sub, ev, store.kind[e], store.location[e])) {
+      write_free(ctx.units, ctx.log_unit, "bogus iiw value ", store.kind[e]);
+      return kErrorExit;
+    }
+  }
+  for (int e = 1; e <= ev.nentries; ++e) apply_value(sub, ev, store.kind[e], store.location[e], ev.current[e]);
+  couple_proposal(ctx, ev, ctx.master_primal);
+  if (ctx.params.ibug >= 7) write_rhs_trace(ctx, ev);
+  for (int i = 1; i <= ev.m2; ++i) ev.coupled[i] += ev.rhs_work[i];
+  set_row_limits(sub, ev);
+  return kOk;
+}
+
+}  // namespace tarvo::sampling

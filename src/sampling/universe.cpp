@@ -1,0 +1,46 @@
+#include "sampling/cut.h"
+#include "sampling/sample_tables.h"
+#include "sampling/solve_pass.h"
+#include "sampling/strategies.h"
+
+namespace tarvo::sampling {
+
+namespace {
+
+// The scenario probability of row k, multiplied in block order from 1.0 as the solve forms it.
+double row_probability(const Context& ctx, const Evaluation& ev, int k) {
+  double p = 1.0;
+  for (int b = 1; b <= ev.nblocks; ++b) {
+    p *= ctx.store.probs[ctx.store.prob_start[b] + table_entry(ev, k, b) - 1];
+  }
+  return p;
+}
+
+}  // namespace
+
+void estimate_universe(const Context& ctx, Evaluation& ev) {
+  clear_cut(ev);
+  for (int k = 1; k <= ev.nsamples; ++k) {
+    const double p = row_probability(ctx, ev, k);
+    ev.cut.objs += p * ev.costs[k];
+    const double* u = point_u(ev, k);
+    for (int j = 1; j <= ev.n1; ++j) ev.cut.gus[j] -= p * u[j];
+  }
+  close_cut(ctx, ev);
+}
+
+int evaluniv(const Context& ctx, Evaluation& ev, int& startflag) {
+  clear_cut(ev);
+  if (ev.collect == 1) clear_accumulators(ev);
+  const PassPlan plan{.rows = ev.nsamples, .cost_offset = 0, .mode = 3, .visit = Visit::serpentine,
+                      .collect = CollectRule::scenario};
+  if (solve_points(ctx, ev, plan, startflag) != kOk) return kErrorExit;
+  if (ev.infeasible_point != 0) {
+    end_on_infeasible(ctx, ev, plan);
+    return kOk;
+  }
+  estimate_universe(ctx, ev);
+  return kOk;
+}
+
+}  // namespace tarvo::sampling
