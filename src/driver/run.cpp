@@ -11,6 +11,7 @@
 #include "driver/model_phase.h"
 #include "driver/run_params_reader.h"
 #include "driver/run_state.h"
+#include "driver/solve_phase.h"
 #include "driver/timing_report.h"
 #include "lp/optimizer.h"
 
@@ -52,6 +53,7 @@ int run_tarvo() {
     error_exit(*run, 1);
     return 0;
   }
+  sampling::seed_generator(run->evaluation, run->params.iseed);
   open_screen_log(*run);
   if (lp::optimizer_init(run->optimizer, run->units, run->params.iscratch, kErrorUnit,
                          run->params.iwrite) != 0) {
@@ -66,7 +68,13 @@ int run_tarvo() {
     return 0;
   }
   run->evaluation_run = read_mode_line(std::cin);
-  if (!read_model(*run)) {
+  if (!read_model(*run) || !prepare_solve(*run)) {
+    error_exit(*run, 1);
+    return 0;
+  }
+  const bool solved = run->evaluation_run ? evaluate_solution_file(*run)
+                                          : solve_stochastic_program(*run);
+  if (!solved) {
     error_exit(*run, 1);
     return 0;
   }

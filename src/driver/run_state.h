@@ -3,9 +3,11 @@
 #include "common/clock.h"
 #include "common/run_params.h"
 #include "common/units.h"
+#include "benders/solve_state.h"
 #include "input/model.h"
 #include "input/mps_reader.h"
 #include "lp/optimizer.h"
+#include "sampling/evaluation.h"
 
 namespace tarvo::driver {
 
@@ -25,11 +27,15 @@ struct RunState {
   input::MpsReadResult core_read;
   input::Decomposition model;
   input::OutcomeStore store;
+  sampling::Evaluation evaluation;
+  benders::SolveState solve;
   int model_status = 0;
   int solver_status = 0;
   bool evaluation_run = false;
-  int iterations = 0;
-  double master_objective = 0.0;
+  bool solve_ready = false;  // the solve state is sized: the reports have a master to show
 };
+
+// What the sampling layer and the Benders loop borrow from the run.
+sampling::Context sampling_context(RunState& run);
 
 }  // namespace tarvo::driver
