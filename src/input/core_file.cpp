@@ -47,6 +47,7 @@ InputStatus read_core_problem(lp::ProblemSlot& core, const lp::Options& options,
                               int iwrite, MpsReadResult& read) {
   const std::string file_name = "MODEL.COR";
   read = read_mps_file(core, options, units, file_name, kCoreUnit, print_unit, summary_unit);
+  if (read.status == InputStatus::missing_file) report_no_file(units, to, file_name);
   const InputStatus status = check_core_problem(core, lp::kCoreSlot, read, file_name, units, to);
   if (!failed(status) && iwrite >= kDumpLevel) {
     dump_problem(core, lp::kCoreSlot, read.names, units, "MODEL.P00", kDumpUnit);

@@ -1,0 +1,75 @@
+#pragma once
+// Running TARVO on a bundled example and reading back what a caller reads: the status file
+// MODEL.SOG, the solution report and the console.
+#include <map>
+#include <sstream>
+#include <string>
+
+#include "run_in_dir.h"
+
+namespace tarvo::testing {
+
+struct StatusFile {
+  int status = 0;
+  int solsta = 0;
+  int iterations = 0;
+  double objective = 0.0;
+  std::map<std::string, double> column_value;  // first-stage columns by name
+};
+
+inline double number_after(const std::string& text, const std::string& label) {
+  const auto at = text.find(label);
+  if (at == std::string::npos) return -1.0e300;
+  return std::stod(text.substr(at + label.size()));
+}
+
+inline std::string trimmed(std::string s) {
+  while (!s.empty() && s.back() == ' ') s.pop_back();
+  return s;
+}
+
+// The header lines and the first block of column records (the master's first-stage columns).
+inline StatusFile read_status_file(const fs::path& dir) {
+  const std::string text = read_file(dir / "MODEL.SOG");
+  StatusFile sog;
+  sog.status = static_cast<int>(number_after(text, "status  = "));
+  sog.solsta = static_cast<int>(number_after(text, "solsta  = "));
+  sog.iterations = static_cast<int>(number_after(text, "itusd  = "));
+  sog.objective = number_after(text, "objval  = ");
+  std::istringstream in(text);
+  std::string line;
+  int previous = 0;
+  while (std::getline(in, line)) {
+    if (line.size() < 59 || line.compare(0, 1, " ") != 0 || line[8] != ' ') continue;
+    const int number = std::stoi(line.substr(1, 7));
+    if (number <= previous) break;  // the subproblem's columns start again from 1
+    previous = number;
+    sog.column_value[trimmed(line.substr(9, 8))] = std::stod(line.substr(18, 20));
+  }
+  return sog;
+}
+
+struct ExampleRun {
+  fs::path dir;
+  ProgramRun program;
+  StatusFile sog;
+};
+
+// Copies the example, replaces its MODEL.INP and runs TARVO with `mode` on standard input. The
+// caller removes run.dir.
+inline ExampleRun run_example(const std::string& name, const std::string& inp,
+                              const std::string& mode = "") {
+  ExampleRun run;
+  run.dir = fresh_directory(name);
+  copy_example(name, run.dir);
+  write_file(run.dir / "MODEL.INP", inp + "1 igms\n");
+  run.program = run_program(TARVO_BINARY, run.dir, mode);
+  run.sog = read_status_file(run.dir);
+  return run;
+}
+
+inline double relative_error(double value, double reference) {
+  return std::abs(value - reference) / std::max(1.0, std::abs(reference));
+}
+
+}  // namespace tarvo::testing

@@ -1,0 +1,89 @@
+// How a run ends when it cannot converge: iteration and time limits, cut rows running out, an
+// undefined strategy, a model without random data, and missing model files.
+#include <gtest/gtest.h>
+
+#include "end_to_end_support.h"
+
+namespace tarvo::testing {
+namespace {
+
+TEST(RunLimits, LimitsEndTheRunNormallyWithTheirWarning) {
+  const struct {
+    const char* name;
+    const char* inp;
+    const char* warning;     // in MODEL.ERR and the screen log
+    const char* log_line;    // in the screen log
+  } cases[] = {
+      {"iteration limit", "4 istrat\n1 maxit\n", "warning: iterations limit reached.", ""},
+      {"time limit", "4 istrat\n0 maxtime\n", "warning: time limit reached.", ""},
+      {"cut rows run out", "4 istrat\n1 nzrows\n", "warning: iterations limit reached.",
+       " not enough nzrows, program terminated\n"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const ExampleRun run = run_example("stormg2-8", c.inp);
+    EXPECT_TRUE(contains(run.program.console, " Normal Exit\n"));
+    EXPECT_TRUE(contains(read_file(run.dir / "MODEL.ERR"), c.warning));
+    const std::string log = read_file(run.dir / "MODEL.SCR");
+    EXPECT_TRUE(contains(log, c.warning));
+    EXPECT_TRUE(contains(log, c.log_line));
+    EXPECT_EQ(run.sog.status, 1);
+    EXPECT_EQ(run.sog.solsta, 1);  // the normal exit reports solver status 1 whatever stopped it
+    EXPECT_TRUE(contains(read_file(run.dir / "MODEL.SOL"), "-UNIVERSE- SOLUTION:"));
+    fs::remove_all(run.dir);
+  }
+}
+
+TEST(RunLimits, CutRowsRunningOutShowAsAsterisksInTheSummary) {
+  const ExampleRun run = run_example("stormg2-8", "4 istrat\n1 nzrows\n");
+  EXPECT_EQ(read_file(run.dir / "fort.15").substr(0, 4), "****");
+  EXPECT_TRUE(contains(run.program.console, " 999999"));
+  fs::remove_all(run.dir);
+}
+
+TEST(RunLimits, UndefinedStrategySolvesNothing) {
+  const ExampleRun run = run_example("lands3", "12 istrat\n");
+  EXPECT_TRUE(contains(run.program.console, " Normal Exit\n"));
+  EXPECT_FALSE(contains(read_file(run.dir / "MODEL.SOL"), "SOLUTION:"));
+  EXPECT_EQ(read_file(run.dir / "fort.15").substr(0, 4), "   0");
+  fs::remove_all(run.dir);
+}
+
+TEST(RunLimits, ModelWithoutRandomDataIsSolvedAsItStands) {
+  const fs::path dir = fresh_directory("norandom");
+  copy_example("lands3", dir);
+  write_file(dir / "MODEL.STO", "STOCH         LandS\nENDATA\n");
+  write_file(dir / "MODEL.INP", "5 istrat\n1 igms\n");
+  const ProgramRun run = run_program(TARVO_BINARY, dir, "");
+  EXPECT_TRUE(contains(run.console, " Normal Exit\n"));
+  // With the core's demands (the second-stage right-hand sides of the file) the two-stage
+  // problem is the core LP itself, whose optimum is 209.
+  EXPECT_LT(relative_error(read_status_file(dir).objective, 209.0), 1e-9);
+  fs::remove_all(dir);
+}
+
+TEST(RunLimits, MissingModelFilesEndWithTheirMessage) {
+  const struct {
+    const char* missing;
+    const char* message;
+  } cases[] = {
+      {"MODEL.STO", " ERROR in file MODEL.STO\n"},
+      {"MODEL.TIM", "ERROR: No file MODEL.TIM"},
+      {"MODEL.COR", "ERROR: No file MODEL.COR"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.missing);
+    const fs::path dir = fresh_directory("missing");
+    copy_example("lands3", dir);
+    fs::remove(dir / c.missing);
+    write_file(dir / "MODEL.INP", "5 istrat\n1 igms\n");
+    const ProgramRun run = run_program(TARVO_BINARY, dir, "");
+    EXPECT_TRUE(contains(run.console, " ERROR Exit\n"));
+    EXPECT_TRUE(contains(read_file(dir / "MODEL.ERR"), c.message)) << read_file(dir / "MODEL.ERR");
+    EXPECT_EQ(read_status_file(dir).status, 12);
+    fs::remove_all(dir);
+  }
+}
+
+}  // namespace
+}  // namespace tarvo::testing
