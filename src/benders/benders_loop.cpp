@@ -63,7 +63,7 @@ int solve_relaxed_master(const sampling::Context& ctx, SolveState& st) {
   write_free(u, ctx.log_unit, "solve relaxed master");
   lp::select_problem(ctx.optimizer, lp::kMasterSlot);
   lp::set_objective_mode(ctx.optimizer, u, 0, ctx.log_unit);
-  const int inform = solve_master(ctx, st.iterations != 0 ? kWarmStart : kColdStart,
+  const int inform = solve_master(ctx, st, st.iterations != 0 ? kWarmStart : kColdStart,
                                   st.master_objective);
   if (inform != 0) return master_failed(ctx, inform);
   write_free(u, ctx.log_unit, "relaxed master done, obj:", st.master_objective);
@@ -87,7 +87,7 @@ int solve_regularized_master(const sampling::Context& ctx, const sampling::Evalu
   lp::select_problem(opt, lp::kMasterSlot);
   lp::set_objective_mode(opt, u, 1, ctx.log_unit);
   write_free(u, ctx.log_unit, "solve regularized master, iteration: ", st.iterations);
-  const int inform = solve_master(ctx, kWarmStart, st.master_objective);
+  const int inform = solve_master(ctx, st, kWarmStart, st.master_objective);
   lp::set_objective_mode(opt, u, 0, ctx.log_unit);
   if (inform != 0) return master_failed(ctx, inform);
   lp::regobj(reg, 0, n, ctx.master_primal.data(), st.regularization_term, st.gradient.data(), 0,
@@ -102,7 +102,7 @@ int solve_next_master(const sampling::Context& ctx, const sampling::Evaluation& 
                       SolveState& st, int ireg) {
   Units& u = ctx.units;
   write_free(u, ctx.log_unit, "solve master, iteration: ", st.iterations);
-  const int inform = solve_master(ctx, kWarmStart, st.master_objective);
+  const int inform = solve_master(ctx, st, kWarmStart, st.master_objective);
   if (inform != 0) return master_failed(ctx, inform);
   write_free(u, ctx.log_unit, "master objective: ", st.master_objective);
   if (ctx.params.ibug >= 1) list_first_stage(ctx, " x (", "):");

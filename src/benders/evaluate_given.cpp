@@ -29,7 +29,7 @@ int evaluate_given_solution(const sampling::Context& ctx, sampling::Evaluation& 
                             SolveState& st, int istrat, const std::vector<double>& x) {
   lp::select_problem(ctx.optimizer, lp::kMasterSlot);
   fix_first_stage(ctx.optimizer.slot[lp::kMasterSlot], ctx.model.n1, x);
-  const int inform = solve_master(ctx, kColdStart, st.master_objective);
+  const int inform = solve_master(ctx, st, kColdStart, st.master_objective);
   if (inform == 1) {
     report_failed_solve(ctx, "error: problem infeasible");
     return sampling::dumpbad(ctx, lp::kMasterSlot, inform);

@@ -7,7 +7,7 @@
 
 namespace tarvo::benders {
 
-int solve_master(const sampling::Context& ctx, int start, double& objective) {
+int solve_master(const sampling::Context& ctx, SolveState& state, int start, double& objective) {
   lp::Optimizer& opt = ctx.optimizer;
   lp::select_problem(opt, lp::kMasterSlot);
   clock_interval(ctx.clock, nullptr);
@@ -16,6 +16,8 @@ int solve_master(const sampling::Context& ctx, int start, double& objective) {
   lp::solve_problem(opt, ctx.units, ctx.log_unit, inform, start, objective, spare,
                     ctx.master_duals, spare, ctx.master_primal);
   clock_interval(ctx.clock, &ctx.clock.master);
+  ++state.master_solves;
+  state.master_pivots += opt.solver[lp::kMasterSlot].counters.iterations;
   return inform;
 }
 

@@ -19,6 +19,8 @@ struct SolveState {
   double upper_end = 0.0;
   double regularization_term = 0.0;
   double zsub = 0.0;               // expected second-stage cost of the final solution
+  long long master_solves = 0;
+  long long master_pivots = 0;     // simplex iterations over all master solves
 
   std::vector<double> master_primal;  // [1..n+m] master columns, then row logicals
   std::vector<double> master_duals;   // [1..m] row duals, then [m+1..m+n] reduced costs

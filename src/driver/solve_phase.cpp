@@ -63,6 +63,17 @@ SolutionReport report_of(RunState& run, int strategy) {
   return r;
 }
 
+// Work counts of the run, for a user comparing settings and for the benchmark table.
+void write_run_statistics(RunState& run) {
+  Units& u = run.units;
+  const int log = run.params.iscratch;
+  write_free(u, log, "run statistics:");
+  write_free(u, log, "subproblem solves: ", run.evaluation.lp_solves);
+  write_free(u, log, "subproblem pivots: ", run.evaluation.lp_pivots);
+  write_free(u, log, "master solves:     ", run.solve.master_solves);
+  write_free(u, log, "master pivots:     ", run.solve.master_pivots);
+}
+
 void write_run_summary(RunState& run) {
   const benders::SolveState& st = run.solve;
   write_record(run.units, kBaseUnit, "(i4, 1x, 5(1pe12.5, 1x))",
@@ -108,6 +119,7 @@ bool solve_stochastic_program(RunState& run) {
     if (!run_strategy(run, istrat, run.params.ireg)) return false;
   }
   write_run_summary(run);
+  write_run_statistics(run);
   if (log != kConsoleUnit) close_unit(u, log);
   return true;
 }

@@ -166,9 +166,9 @@ int evaluate(const Context& ctx, Evaluation& ev, int istrat) {
   lp::select_problem(ctx.optimizer, lp::kSubproblemSlot);
   const Family family = family_of(istrat);
   write_strategy_message(ctx, family);
-  // Each evaluation starts its first subproblem cold and the rest warm.
-  int startflag = 0;
-  if (run_strategy(ctx, ev, family, startflag) != kOk) return kErrorExit;
+  // Only the run's first subproblem starts cold. A new proposal changes only right-hand sides, so
+  // the last evaluation's final basis stays dual feasible and is the cheapest start.
+  if (run_strategy(ctx, ev, family, ev.start_flag) != kOk) return kErrorExit;
   if (keeps_approximation(family)) snapshot(ctx, ev, kLastApproximation);
   keep_if_best(ctx, ev);
   lp::select_problem(ctx.optimizer, lp::kMasterSlot);

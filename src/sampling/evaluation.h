@@ -115,7 +115,9 @@ struct Evaluation {
 
   // Work counters for the run's statistics: subproblem solves, and points that took the results
   // of an identical point solved just before them.
+  int start_flag = 0;        // 0 until the first subproblem solve of the run (cold)
   long long lp_solves = 0;
+  long long lp_pivots = 0;  // simplex iterations over all subproblem solves
   long long reused_points = 0;
 
   // Best (lowest) total cost and the proposal that gave it.

@@ -52,6 +52,7 @@ int subsolve(const Context& ctx, Evaluation& ev, int& startflag, int& status) {
                     spare, ev.primal);
   clock_interval(ctx.clock, &ctx.clock.subproblem);
   ++ev.lp_solves;
+  ev.lp_pivots += ctx.optimizer.solver[lp::kSubproblemSlot].counters.iterations;
   status = inform;
   if (inform == 0 || inform == 1) return kOk;
   return dumpbad(ctx, lp::kSubproblemSlot, inform);
