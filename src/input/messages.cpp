@@ -14,8 +14,6 @@ std::string laid_out(std::string_view edit_list, std::initializer_list<RecordIte
   return lines.empty() ? std::string() : lines.front();
 }
 
-bool unit_open(const Units& units, int unit) { return unit > 0 && unit_is_open(units, unit); }
-
 void write_run_message(Units& units, const MessageUnits& to, std::string_view line) {
   write_if_open(units, to.log, line);
   if (to.err != to.log) write_if_open(units, to.err, line);
@@ -26,7 +24,7 @@ void report_no_file(Units& units, const MessageUnits& to, const std::string& fil
 }
 
 void write_if_open(Units& units, int unit, std::string_view line) {
-  if (unit_open(units, unit)) write_line(units, unit, line);
+  if (unit_is_open(units, unit)) write_line(units, unit, line);
 }
 
 }  // namespace tarvo::input

@@ -15,9 +15,6 @@ struct MessageUnits {
   int err = 0;  // MODEL.ERR
 };
 
-// True when writes to the unit reach an open file (never creates fort.<unit>).
-bool unit_open(const Units& units, int unit);
-
 // Writes the line to the log unit and to the error unit (once when they are the same).
 void write_run_message(Units& units, const MessageUnits& to, std::string_view line);
 

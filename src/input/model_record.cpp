@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t kRecordColumns = 80;
 
 void echo_record(const ModelRecord& r, Units& units, int echo_unit) {
-  if (!unit_open(units, echo_unit)) return;
+  if (!unit_is_open(units, echo_unit)) return;
   const lp::Name8 n1 = r.name1();
   const lp::Name8 n2 = r.name2();
   const lp::Name8 n3 = r.name3();

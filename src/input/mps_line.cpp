@@ -22,7 +22,7 @@ double real_option(const lp::Options& options, lp::RealOption option, double uns
 // list limit.
 void list_line(ReadState& state) {
   const MpsLine& line = state.line;
-  if (!unit_open(state.units, state.print_unit)) return;
+  if (!unit_is_open(state.units, state.print_unit)) return;
   if (!(line.comment || line.card || line.number <= 5 || line.number <= state.settings.list_limit)) {
     return;
   }

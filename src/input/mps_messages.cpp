@@ -13,7 +13,7 @@ void line_message(ReadState& state, std::string_view text) {
 }
 
 int fault_unit(const ReadState& state) {
-  return unit_open(state.units, state.print_unit) ? state.print_unit : state.summary_unit;
+  return unit_is_open(state.units, state.print_unit) ? state.print_unit : state.summary_unit;
 }
 
 // A faulty line is reported in the print file; when that is closed, where the section messages
