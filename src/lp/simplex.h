@@ -85,6 +85,8 @@ struct SimplexState {
   std::vector<double> col_scale_work;  // [n] scratch for the scaling passes
   std::vector<double> row_scale_work;  // [m]
   std::vector<double> row_min_work;    // [m]
+  std::vector<double> row_floor_work;  // [m] entries below this and their column's floor do not
+  std::vector<double> col_floor_work;  // [n] steer the scale factors
   bool costs_shifted = false;
   bool bounds_perturbed = false;
 

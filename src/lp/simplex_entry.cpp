@@ -181,6 +181,8 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.col_scale_work.assign(nmax, 1.0);
   s.row_scale_work.assign(mmax, 1.0);
   s.row_min_work.assign(mmax, 0.0);
+  s.row_floor_work.assign(mmax, 0.0);
+  s.col_floor_work.assign(nmax, 0.0);
   s.source_ka.assign(nmax + 1, 0);
   s.source_ha.assign(nemax, 0);
   s.source_a.assign(nemax, 0.0);

@@ -39,6 +39,10 @@ inline constexpr double kPhaseOneSlack = 1.0;
 inline constexpr int kScalePasses = 20;
 inline constexpr double kScaleMin = 1.0e-10;
 inline constexpr double kScaleMax = 1.0e10;
+// An entry this many times smaller than the largest of its row and than the largest of its column
+// is left out of the scaling passes: round-off residue (cut coefficients that should be zero)
+// would otherwise pull the geometric means of its row and column by many orders of magnitude.
+inline constexpr double kScaleNegligible = 1.0e-10;
 // Refactorizations in a row without an iteration in between before exit 12.
 inline constexpr int kRefactorsInARow = 3;
 
