@@ -17,11 +17,11 @@ int refresh(SimplexState& s, const SimplexSettings& settings, Units& units, bool
     if (code != kExitOptimal) return code;
   }
   compute_primal_values(s);
-  measure_infeasibility(s, settings.feasibility_tol);
+  measure_infeasibility(s);
   const int phase = s.ninf > 0 ? 1 : 2;
   if (phase != s.phase) reset_primal_weights(s);
   s.phase = phase;
-  set_basic_costs(s, settings.feasibility_tol);
+  set_basic_costs(s);
   compute_duals(s);
   return kExitOptimal;
 }
@@ -50,7 +50,6 @@ void move_basics(SimplexState& s, double delta) {
 }  // namespace
 
 int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
-  const double tol = settings.feasibility_tol;
   int code = refresh(s, settings, units, !s.factors_valid);
   if (code != kExitOptimal) return code;
   reset_primal_weights(s);
@@ -85,7 +84,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     const PrimalStep step = s.phase == 1 ? phase_one_ratio_test(s, q, direction, settings)
                                          : primal_ratio_test(s, q, direction, settings);
     if (step.rejected) {
-      s.rejected[q] = s.counters.iterations + 1;
+      reject_entering(s, q, s.counters.iterations + 1);
       continue;
     }
     if (step.unbounded) {
@@ -128,13 +127,13 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     ++s.counters.primal_iterations;
 
     if (s.phase == 1) {
-      measure_infeasibility(s, tol);
+      measure_infeasibility(s);
       if (s.ninf == 0) {
         if (s.stop_when_feasible) return kExitOptimal;
         s.phase = 2;
         reset_primal_weights(s);
       }
-      if (set_basic_costs(s, tol)) compute_duals(s);
+      if (set_basic_costs(s)) compute_duals(s);
     }
     log_iteration(s, settings, units);
 

@@ -43,6 +43,15 @@ inline constexpr double kScaleMax = 1.0e10;
 // is left out of the scaling passes: round-off residue (cut coefficients that should be zero)
 // would otherwise pull the geometric means of its row and column by many orders of magnitude.
 inline constexpr double kScaleNegligible = 1.0e-10;
+// The solution is checked in the problem's own units after every solve: a violation counts when
+// it exceeds the feasibility (optimality) tolerance and also this share of the largest number
+// that enters it (|a_ij x_j| terms of a row, |x_j| of a column; |c_j| and |a_ij pi_i| of a
+// reduced cost), so that rows and duals of size 1e7 are not held to accuracies below round-off.
+inline constexpr double kUnscaledRelative = 1.0e-9;
+// Where the check finds a violation the variable's working tolerance is cut to this share of the
+// true-unit tolerance, and the solve continues from its basis; at most this many rounds.
+inline constexpr double kTightenShare = 0.5;
+inline constexpr int kCleanupRounds = 3;
 // Refactorizations in a row without an iteration in between before exit 12.
 inline constexpr int kRefactorsInARow = 3;
 

@@ -1,5 +1,6 @@
-// Solutions judged in the problem's own units: masters whose cut rows carry round-off residue used
-// to be scaled by it into stalls.
+// Solutions judged in the problem's own units. Rows and columns like those of a Benders master
+// get scale factors that let the working tolerances hide violations many times the tolerance;
+// masters whose cut rows carry round-off residue used to be scaled by it into stalls.
 #include <gtest/gtest.h>
 
 #include "simplex_test_support.h"
@@ -40,6 +41,59 @@ double worst_violation(const ProblemSlot& slot) {
   }
   return worst;
 }
+
+// Entries of 0.002 give the columns large scales, so a violation of the last row (coefficients 1,
+// like a feasibility cut) shrinks in working units.
+DenseLp feasibility_cut_lp() {
+  return DenseLp{4, 4, {1, 2, 3, 1.5}, {{0.002, 0.002, 0, 0.001}, {0, 0.002, 0.003, 0.001}, {1, 1, 1, 1}, {1, 1, 1, 0}},
+                 {-kFree, -kFree, 240, 100}, {1, 1, kFree, kFree}, {0, 0, 0, 0}, {kFree, kFree, kFree, kFree}};
+}
+
+// An optimality cut theta + 4e4 x1 + 5e4 x2 >= 1.2e7 gives x1, x2 and the first row small scales,
+// so their reduced costs shrink in working units.
+DenseLp optimality_cut_lp() {
+  return DenseLp{3, 2, {100, 120, 1}, {{1, 1, 0}, {4e4, 5e4, 1}}, {-kFree, 1.2e7}, {200, kFree}, {0, 0, 0},
+                 {kFree, kFree, 1e8}};
+}
+
+// Each change leaves the first optimal basis off by a little in true units: a row limit 8e-6
+// above the activity, a reduced cost of -5e-4, a row dual of +5e-4 (x2 basic sets it; x1 keeps
+// its reduced cost).
+void raise_last_limit(DenseLp& lp, const ProblemSlot& slot) { lp.row_lo.back() = -slot.xn[slot.nb] + 8e-6; }
+void undercut_first_cost(DenseLp& lp, const ProblemSlot& slot) { lp.c[0] -= slot.rc[1] + 5e-4; }
+void flip_first_row_dual(DenseLp& lp, const ProblemSlot& slot) {
+  const double shift = 5e-4 - slot.pi[2];
+  lp.c[0] += shift;
+  lp.c[1] += shift;
+}
+
+struct WarmCase {
+  const char* name;
+  DenseLp (*build)();
+  void (*change)(DenseLp&, const ProblemSlot&);
+};
+
+class TrueUnits : public ::testing::TestWithParam<WarmCase> {};
+
+TEST_P(TrueUnits, WarmSolveMeetsTheTolerancesInTrueUnits) {
+  DenseLp lp = GetParam().build();
+  Harness h;
+  load_slot(lp, h.slot);
+  ASSERT_EQ(h.solve("cold"), 0);
+  GetParam().change(lp, h.slot);
+  load_slot(lp, h.slot);  // keeps hs: the old optimal basis starts the warm solve
+  ASSERT_EQ(h.solve("warm"), 0);
+  EXPECT_LE(worst_violation(h.slot), 1.0);
+  const Reference ref = brute_force(lp);
+  ASSERT_EQ(ref.outcome, Outcome::optimal);
+  EXPECT_NEAR(h.slot.obj, ref.objective, 1e-9 * std::fabs(ref.objective));
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, TrueUnits,
+                         ::testing::Values(WarmCase{"row_limit", feasibility_cut_lp, raise_last_limit},
+                                           WarmCase{"column_cost", optimality_cut_lp, undercut_first_cost},
+                                           WarmCase{"row_dual", optimality_cut_lp, flip_first_row_dual}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 // A master: 8 first-stage rows with coefficients 1, 20 cut rows theta + g.x >= G with g of 1e4 to
 // 1e5 and G near 1.2e7, theta >= -1e9; a fifth of the cut coefficients are round-off residue from
