@@ -15,8 +15,10 @@ inline constexpr double kPivotMismatch = 1.0e-8;
 // Devex and dual steepest edge weights are restarted when one grows beyond this.
 inline constexpr double kWeightResetLimit = 1.0e6;
 inline constexpr double kWeightFloor = 1.0e-4;
-// Iterations with no objective progress before bounds (primal) or costs (dual) are perturbed.
+// Iterations with no objective progress before bounds (primal) or costs (dual) are perturbed. An
+// iteration progresses when it improves the best value reached by this share of it.
 inline constexpr int kStallBeforePerturb = 50;
+inline constexpr double kProgressMargin = 1.0e-12;
 // Relative and absolute size of a perturbation.
 inline constexpr double kPerturbRelative = 1.0e-6;
 inline constexpr double kPerturbAbsolute = 1.0e-7;
