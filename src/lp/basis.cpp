@@ -160,7 +160,7 @@ void compute_primal_values(SimplexState& s) {
 
 // Costs of the basic variables for the current phase; in phase 1 the gradient of the sum of
 // infeasibilities. Returns true when any changed.
-bool set_basic_costs(SimplexState& s, double feasibility_tol) {
+bool set_basic_costs(SimplexState& s) {
   bool changed = false;
   for (int p = 0; p < s.m; ++p) {
     const int j = s.head[p];
@@ -168,8 +168,8 @@ bool set_basic_costs(SimplexState& s, double feasibility_tol) {
     if (s.phase == 1) {
       // Weighted by the scale so that the sum is that of the true infeasibilities.
       c = 0.0;
-      if (s.x[j] < s.lower[j] - feasibility_tol) c = -s.scale[j];
-      else if (s.x[j] > s.upper[j] + feasibility_tol) c = s.scale[j];
+      if (s.x[j] < s.lower[j] - s.primal_tol[j]) c = -s.scale[j];
+      else if (s.x[j] > s.upper[j] + s.primal_tol[j]) c = s.scale[j];
     }
     if (c != s.basic_cost[p]) {
       s.basic_cost[p] = c;
@@ -204,14 +204,12 @@ void compute_duals(SimplexState& s) {
   }
 }
 
-void measure_infeasibility(SimplexState& s, double feasibility_tol) {
+void measure_infeasibility(SimplexState& s) {
   s.ninf = 0;
   s.sinf = 0.0;
   for (int p = 0; p < s.m; ++p) {
     const int j = s.head[p];
-    double v = 0.0;
-    if (s.x[j] < s.lower[j] - feasibility_tol) v = s.lower[j] - s.x[j];
-    else if (s.x[j] > s.upper[j] + feasibility_tol) v = s.x[j] - s.upper[j];
+    const double v = primal_infeasibility(s, j);
     if (v > 0.0) {
       ++s.ninf;
       s.sinf += v * s.scale[j];
@@ -219,21 +217,9 @@ void measure_infeasibility(SimplexState& s, double feasibility_tol) {
   }
 }
 
-// Reduced costs of the wrong sign for the variable's position (a fixed variable never counts).
-static double dual_infeasibility(const SimplexState& s, int j) {
-  if (s.lower[j] == s.upper[j]) return 0.0;
-  switch (s.state[j]) {
-    case kNonbasicLower: return std::max(0.0, -s.d[j]);
-    case kNonbasicUpper: return std::max(0.0, s.d[j]);
-    case kNonbasicFree:
-    case kSuperbasicVar: return std::fabs(s.d[j]);
-    default: return 0.0;
-  }
-}
-
-int count_dual_infeasible(const SimplexState& s, double optimality_tol) {
+int count_dual_infeasible(const SimplexState& s) {
   int count = 0;
-  for (int j = 0; j < s.n + s.m; ++j) count += dual_infeasibility(s, j) > optimality_tol;
+  for (int j = 0; j < s.n + s.m; ++j) count += dual_infeasibility(s, j) > s.dual_tol[j];
   return count;
 }
 
@@ -339,6 +325,12 @@ void update_reduced_costs(SimplexState& s, int q, int r, double dual_step) {
   s.d[leaving] = -dual_step - (s.phase == 1 ? s.basic_cost[r] : 0.0);
   s.d[q] = 0.0;
   s.basic_cost[r] = s.phase == 1 ? 0.0 : s.cost[q];
+}
+
+void clear_rejections(SimplexState& s) {
+  if (!s.candidates_rejected) return;
+  std::fill(s.rejected.begin(), s.rejected.end(), -1);
+  s.candidates_rejected = false;
 }
 
 void restore_costs(SimplexState& s) {

@@ -14,12 +14,13 @@ namespace {
 // Flips boxed variables with a reduced cost of the wrong sign and shifts the cost of the others
 // so that every reduced cost has the sign its bound asks for. Returns true when a flip moved
 // nonbasic values (the basic values must then be recomputed).
-bool make_dual_feasible(SimplexState& s, double tol) {
+bool make_dual_feasible(SimplexState& s) {
   bool flipped = false;
   for (int j = 0; j < s.n + s.m; ++j) {
     const signed char st = s.state[j];
     if (st == kBasicVar || s.lower[j] == s.upper[j]) continue;
     const double dj = s.d[j];
+    const double tol = s.dual_tol[j];
     const bool wrong = (st == kNonbasicLower && dj < -tol) || (st == kNonbasicUpper && dj > tol) ||
                        ((st == kNonbasicFree || st == kSuperbasicVar) && std::fabs(dj) > tol);
     if (!wrong) continue;
@@ -42,9 +43,9 @@ int refresh(SimplexState& s, const SimplexSettings& settings, Units& units, bool
     if (code != kExitOptimal) return code;
   }
   s.phase = 2;
-  set_basic_costs(s, settings.feasibility_tol);
+  set_basic_costs(s);
   compute_duals(s);
-  make_dual_feasible(s, settings.optimality_tol);
+  make_dual_feasible(s);
   compute_primal_values(s);
   if (!s.dual_weights_valid) reset_dual_weights(s);
   return kExitOptimal;
@@ -94,7 +95,6 @@ void apply_flips(SimplexState& s) {
 }  // namespace
 
 int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units) {
-  const double tol = settings.feasibility_tol;
   int code = refresh(s, settings, units, !s.factors_valid);
   if (code != kExitOptimal) return code;
   bool fresh = true;
@@ -109,7 +109,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units) {
       if (code != kExitOptimal) return code;
       fresh = true;
     }
-    const int r = choose_leaving(s, settings);
+    const int r = choose_leaving(s);
     if (r < 0) {
       if (!fresh) {
         refresh(s, settings, units, false);
@@ -121,7 +121,8 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units) {
     if (s.counters.iterations >= settings.iteration_limit) return kExitIterations;
 
     const int leaving = s.head[r];
-    const double bound = s.x[leaving] < s.lower[leaving] - tol ? s.lower[leaving] : s.upper[leaving];
+    const bool below = s.x[leaving] < s.lower[leaving] - s.primal_tol[leaving];
+    const double bound = below ? s.lower[leaving] : s.upper[leaving];
     load_unit_row(s, r);
     lu_btran(s.lu, s.rho);
     compute_pivot_row(s);

@@ -16,9 +16,10 @@ void reset_primal_weights(SimplexState& s) {
 // 0 when it does not. In phase 1 a nonbasic variable may also be pushed beyond its bound: its own
 // infeasibility then counts at its phase-1 weight, and without such moves the least sum of
 // infeasibilities would only be a local one.
-static double primal_price(const SimplexState& s, int j, double tol, int& direction) {
+static double primal_price(const SimplexState& s, int j, int& direction) {
   const signed char st = s.state[j];
-  if (st == kBasicVar || s.rejected[j] == s.counters.iterations + 1) return 0.0;
+  if (st == kBasicVar || s.rejected[j] > s.counters.iterations) return 0.0;
+  const double tol = s.dual_tol[j];
   const double dj = s.d[j];
   const double x = s.x[j];
   double up = dj, down = -dj;  // directional derivatives
@@ -46,7 +47,6 @@ int choose_entering(SimplexState& s, const SimplexSettings& settings) {
   const int total = s.n + s.m;
   const int sections = std::clamp(settings.partial_price, 1, std::max(1, total));
   const int length = (total + sections - 1) / sections;
-  const double tol = settings.optimality_tol;
   for (int t = 0; t < sections; ++t) {
     const int section = (s.partial_start + t) % sections;
     const int begin = section * length;
@@ -56,7 +56,7 @@ int choose_entering(SimplexState& s, const SimplexSettings& settings) {
     int best_direction = 0;
     for (int j = begin; j < end; ++j) {
       int direction = 0;
-      const double price = primal_price(s, j, tol, direction);
+      const double price = primal_price(s, j, direction);
       if (price == 0.0) continue;
       const double score = price * price / s.primal_weight[j];
       if (score > best_score) {
@@ -95,16 +95,12 @@ void reset_dual_weights(SimplexState& s) {
 }
 
 // The basic variable with the largest infeasibility^2 / ||e_r^T B^-1||^2.
-int choose_leaving(SimplexState& s, const SimplexSettings& settings) {
-  const double tol = settings.feasibility_tol;
+int choose_leaving(SimplexState& s) {
   int best = -1;
   double best_score = 0.0;
   for (int p = 0; p < s.m; ++p) {
-    const int j = s.head[p];
-    double v = 0.0;
-    if (s.x[j] < s.lower[j] - tol) v = s.lower[j] - s.x[j];
-    else if (s.x[j] > s.upper[j] + tol) v = s.x[j] - s.upper[j];
-    else continue;
+    const double v = primal_infeasibility(s, s.head[p]);
+    if (v == 0.0) continue;
     const double score = v * v / s.dual_weight[p];
     if (score > best_score) {
       best_score = score;

@@ -17,11 +17,11 @@ int refresh(SimplexState& s, const SimplexSettings& settings, Units& units, bool
     if (code != kExitOptimal) return code;
   }
   compute_primal_values(s);
-  measure_infeasibility(s, settings.feasibility_tol);
+  measure_infeasibility(s);
   const int phase = s.ninf > 0 ? 1 : 2;
   if (phase != s.phase) reset_primal_weights(s);
   s.phase = phase;
-  set_basic_costs(s, settings.feasibility_tol);
+  set_basic_costs(s);
   compute_duals(s);
   return kExitOptimal;
 }
@@ -47,16 +47,44 @@ void move_basics(SimplexState& s, double delta) {
   }
 }
 
+// The value the method lowers (the sum of infeasibilities in phase 1, the objective in phase 2),
+// the best value each phase has reached, and the iterations since either improved. Steps that
+// move count as well as degenerate ones: a cycle of moves (a phase-1 step overshooting by
+// rounding, a singular basis repaired and pivoted back into) stalls the method as surely as a
+// degenerate vertex.
+struct Progress {
+  double best[3] = {0.0, HUGE_VAL, HUGE_VAL};  // by phase
+  int stalled = 0;
+};
+
+void note_progress(Progress& p, int phase, double value) {
+  double& best = p.best[phase];
+  if (best == HUGE_VAL || value < best - kProgressMargin * (1.0 + std::fabs(best))) {
+    best = value;
+    p.stalled = 0;
+    return;
+  }
+  ++p.stalled;
+}
+
+// The objective of the current point from scratch (the steps then update it), so that a point met
+// again after a refactorization is recognized.
+double current_objective(const SimplexState& s) {
+  double sum = 0.0;
+  for (int j = 0; j < s.n + s.m; ++j) sum += s.cost[j] * s.x[j];
+  return sum;
+}
+
 }  // namespace
 
 int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
-  const double tol = settings.feasibility_tol;
   int code = refresh(s, settings, units, !s.factors_valid);
   if (code != kExitOptimal) return code;
   reset_primal_weights(s);
   if (s.stop_when_feasible && s.phase == 2) return kExitOptimal;
   bool fresh = true;  // x and d were just computed from the factors, not updated
-  int degenerate = 0;
+  Progress progress;
+  double objective = current_objective(s);
   int refactors_in_a_row = 0;
   const int stall_limit = kStallLimitBase + 2 * s.m;
 
@@ -65,12 +93,14 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       if (++refactors_in_a_row > kRefactorsInARow) return kExitRefactorTwice;
       code = refresh(s, settings, units, true);
       if (code != kExitOptimal) return code;
+      objective = current_objective(s);
       fresh = true;
     }
     const int q = choose_entering(s, settings);
     if (q < 0) {
       if (!fresh) {
         code = refresh(s, settings, units, false);
+        objective = current_objective(s);
         fresh = true;
         continue;
       }
@@ -85,7 +115,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     const PrimalStep step = s.phase == 1 ? phase_one_ratio_test(s, q, direction, settings)
                                          : primal_ratio_test(s, q, direction, settings);
     if (step.rejected) {
-      s.rejected[q] = s.counters.iterations + 1;
+      reject_entering(s, q, s.counters.iterations + 1);
       continue;
     }
     if (step.unbounded) {
@@ -97,6 +127,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       return kExitUnbounded;
     }
     const double delta = direction * step.step;
+    if (s.phase == 2) objective += s.d[q] * delta;
     s.step_last = step.step;
     s.pivot_last = step.flip ? 0.0 : s.column.value[step.position];
     if (step.flip) {
@@ -128,20 +159,21 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     ++s.counters.primal_iterations;
 
     if (s.phase == 1) {
-      measure_infeasibility(s, tol);
+      measure_infeasibility(s);
       if (s.ninf == 0) {
         if (s.stop_when_feasible) return kExitOptimal;
         s.phase = 2;
         reset_primal_weights(s);
+        objective = current_objective(s);
       }
-      if (set_basic_costs(s, tol)) compute_duals(s);
+      if (set_basic_costs(s)) compute_duals(s);
     }
     log_iteration(s, settings, units);
 
-    degenerate = step.step > 0.0 ? 0 : degenerate + 1;
-    if (degenerate >= kStallBeforePerturb && !s.bounds_perturbed) perturb_bounds(s);
-    if (degenerate >= stall_limit) {
-      s.stall_count = degenerate;
+    note_progress(progress, s.phase, s.phase == 1 ? s.sinf : objective);
+    if (progress.stalled >= kStallBeforePerturb && !s.bounds_perturbed) perturb_bounds(s);
+    if (progress.stalled >= stall_limit) {
+      s.stall_count = progress.stalled;
       return kExitStalled;
     }
   }

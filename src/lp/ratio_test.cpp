@@ -21,9 +21,11 @@ struct Block {
 };
 
 // How far the entering variable may move before basic variable j, changing at `rate` per unit
-// step, passes its bound relaxed by `relax`.
-Block basic_block(const SimplexState& s, int j, double rate, double tol, double relax) {
+// step, passes its bound (relaxed by its tolerance when `relaxed`).
+Block basic_block(const SimplexState& s, int j, double rate, bool relaxed) {
   Block b;
+  const double tol = s.primal_tol[j];
+  const double relax = relaxed ? kHarrisRelax * tol : 0.0;
   const double x = s.x[j];
   const bool phase_one = s.phase == 1;
   if (rate > 0.0) {
@@ -44,8 +46,6 @@ Block basic_block(const SimplexState& s, int j, double rate, double tol, double 
 
 PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const SimplexSettings& settings) {
   PrimalStep out;
-  const double tol = settings.feasibility_tol;
-  const double relax = kHarrisRelax * tol;
   const double pivot_floor = std::max(settings.pivot_tol, kRatioPivotFloor);
   // Moving away from its feasible range (phase 1 only) the entering variable has no own limit.
   double own_limit = direction > 0 ? s.upper[q] - s.x[q] : s.x[q] - s.lower[q];
@@ -57,7 +57,7 @@ PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const Simple
     const int p = alpha.index[t];
     const double a = alpha.value[p];
     if (std::fabs(a) < pivot_floor) continue;
-    theta_max = std::min(theta_max, basic_block(s, s.head[p], -direction * a, tol, relax).ratio);
+    theta_max = std::min(theta_max, basic_block(s, s.head[p], -direction * a, true).ratio);
   }
   if (own_limit <= theta_max) {
     if (!std::isfinite(own_limit)) {
@@ -74,7 +74,7 @@ PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const Simple
     const int p = alpha.index[t];
     const double a = alpha.value[p];
     if (std::fabs(a) < pivot_floor || std::fabs(a) <= best_pivot) continue;
-    const Block b = basic_block(s, s.head[p], -direction * a, tol, 0.0);
+    const Block b = basic_block(s, s.head[p], -direction * a, false);
     if (b.ratio > theta_max) continue;
     best_pivot = std::fabs(a);
     out.position = p;
@@ -92,7 +92,6 @@ PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const Simple
 // the one with the largest pivot).
 PrimalStep phase_one_ratio_test(SimplexState& s, int q, int direction, const SimplexSettings& settings) {
   PrimalStep out;
-  const double tol = settings.feasibility_tol;
   const double pivot_floor = std::max(settings.pivot_tol, kRatioPivotFloor);
   const SparseVector& alpha = s.column;
   const bool elastic = direction > 0 ? s.x[q] >= s.upper[q] : s.x[q] <= s.lower[q];
@@ -118,6 +117,7 @@ PrimalStep phase_one_ratio_test(SimplexState& s, int q, int direction, const Sim
     const int j = s.head[p];
     const double rate = -direction * a;
     const double x = s.x[j];
+    const double tol = s.primal_tol[j];
     if (rate > 0.0) {
       if (x < s.lower[j] - tol) add(2 * p, (s.lower[j] - x) / rate);
       if (std::isfinite(s.upper[j]) && x <= s.upper[j] + tol) add(2 * p + 1, (s.upper[j] - x) / rate);
@@ -178,7 +178,6 @@ DualStep dual_ratio_test(SimplexState& s, double infeasibility, const SimplexSet
   // To lower bound (infeasibility < 0) the leaving variable must rise: a candidate at its lower
   // bound needs alpha_rj < 0, one at its upper bound alpha_rj > 0 (mirrored for the upper bound).
   const double sign = infeasibility < 0.0 ? 1.0 : -1.0;
-  const double tol = kHarrisRelax * settings.optimality_tol;
   const double pivot_floor = std::max(settings.pivot_tol, kRatioPivotFloor);
   int count = 0;
   for (int k = 0; k < s.pivot_count; ++k) {
@@ -213,7 +212,7 @@ DualStep dual_ratio_test(SimplexState& s, double infeasibility, const SimplexSet
     double theta_max = kInf;
     for (int k = 0; k < count; ++k) {
       const double a = std::fabs(s.pivot_row[s.candidate[k]]);
-      theta_max = std::min(theta_max, (s.candidate_ratio[k] + tol) / a);
+      theta_max = std::min(theta_max, (s.candidate_ratio[k] + kHarrisRelax * s.dual_tol[s.candidate[k]]) / a);
     }
     double slope_drop = 0.0;
     bool must_enter = false;

@@ -35,7 +35,7 @@ void evaluate_quadratic_gradient(SimplexState& s, const Regularization& reg) {
   for (int j = 0; j < nn; ++j) s.cost[j] += s.sense * s.regobj_g[j + 1] * s.scale[j];
   s.costs_shifted = true;
   s.phase = 2;
-  set_basic_costs(s, 0.0);
+  set_basic_costs(s);
   compute_duals(s);
 }
 
@@ -55,9 +55,9 @@ void collect_superbasics(SimplexState& s) {
 }
 
 // The nonbasic variable whose reduced gradient most invites it to move, or -1.
-int choose_new_superbasic(const SimplexState& s, double tol) {
+int choose_new_superbasic(const SimplexState& s) {
   int best = -1;
-  double best_price = tol;
+  double best_price = 0.0;
   for (int j = 0; j < s.n + s.m; ++j) {
     const signed char st = s.state[j];
     if (st == kBasicVar || st == kSuperbasicVar || s.lower[j] == s.upper[j]) continue;
@@ -66,7 +66,7 @@ int choose_new_superbasic(const SimplexState& s, double tol) {
     if (st == kNonbasicLower) price = -dj;
     else if (st == kNonbasicUpper) price = dj;
     else price = std::fabs(dj);
-    if (price > best_price) {
+    if (price > s.dual_tol[j] && price > best_price) {
       best_price = price;
       best = j;
     }
@@ -194,7 +194,6 @@ int run_reduced_gradient(SimplexState& s, const SimplexSettings& settings, Units
   if (code != kExitOptimal) return code;
   set_hessian(s, regularization);
   collect_superbasics(s);
-  const double tol = settings.optimality_tol;
   int refactors = 0;
   while (true) {
     if (s.refactor_due || s.updates >= settings.factor_frequency) {
@@ -206,9 +205,14 @@ int run_reduced_gradient(SimplexState& s, const SimplexSettings& settings, Units
     }
     evaluate_quadratic_gradient(s, regularization);
     double reduced = 0.0;
-    for (int k = 0; k < s.superbasic_count; ++k) reduced = std::max(reduced, std::fabs(s.d[s.superbasic[k]]));
-    if (reduced <= tol) {
-      const int j = choose_new_superbasic(s, tol);
+    bool stationary = true;  // every superbasic's reduced gradient within its tolerance
+    for (int k = 0; k < s.superbasic_count; ++k) {
+      const int j = s.superbasic[k];
+      reduced = std::max(reduced, std::fabs(s.d[j]));
+      stationary = stationary && std::fabs(s.d[j]) <= s.dual_tol[j];
+    }
+    if (stationary) {
+      const int j = choose_new_superbasic(s);
       if (j < 0) return kExitOptimal;
       if (s.superbasic_count >= settings.superbasics_limit) return kExitSuperbasicsLimit;
       s.state[j] = kSuperbasicVar;
@@ -243,7 +247,7 @@ int run_reduced_gradient(SimplexState& s, const SimplexSettings& settings, Units
     refactors = 0;
     ++s.counters.iterations;
     ++s.counters.primal_iterations;
-    measure_infeasibility(s, settings.feasibility_tol);
+    measure_infeasibility(s);
     log_iteration(s, settings, units);
   }
 }

@@ -1,7 +1,8 @@
 // Scale factors of the working matrix: alternating geometric-mean passes over columns and rows
 // until the spread of the entries stops shrinking by more than the scale tolerance, then an
 // equilibration that brings every column's largest entry to 1. Factors are powers of 2 so that
-// scaling and unscaling are exact.
+// scaling and unscaling are exact. Entries negligible against the largest of both their row and
+// their column take no part in the geometric means.
 #include <algorithm>
 #include <cmath>
 
@@ -17,12 +18,33 @@ double power_of_two(double v) {
   return std::ldexp(1.0, static_cast<int>(std::lround(std::log2(v))));
 }
 
+// The floors below which an entry is negligible for its row and for its column.
+void set_negligible_floors(SimplexState& s) {
+  std::fill(s.row_floor_work.begin(), s.row_floor_work.begin() + s.m, 0.0);
+  for (int j = 0; j < s.n; ++j) {
+    double hi = 0.0;
+    for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k) {
+      const double a = std::fabs(s.value[k]);
+      hi = std::max(hi, a);
+      s.row_floor_work[s.row_index[k]] = std::max(s.row_floor_work[s.row_index[k]], a);
+    }
+    s.col_floor_work[j] = kScaleNegligible * hi;
+  }
+  for (int i = 0; i < s.m; ++i) s.row_floor_work[i] *= kScaleNegligible;
+}
+
+bool steers_scaling(const SimplexState& s, int j, int k) {
+  const double a = std::fabs(s.value[k]);
+  return a >= s.col_floor_work[j] || a >= s.row_floor_work[s.row_index[k]];
+}
+
 // Largest ratio max|a|/min|a| over the columns of R A C (C only for columns that may be scaled).
 double column_spread(const SimplexState& s, const std::vector<double>& row, const std::vector<double>& col) {
   double worst = 1.0;
   for (int j = 0; j < s.n; ++j) {
     double lo = HUGE_VAL, hi = 0.0;
     for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k) {
+      if (!steers_scaling(s, j, k)) continue;
       const double a = std::fabs(s.value[k]) * row[s.row_index[k]] * col[j];
       lo = std::min(lo, a);
       hi = std::max(hi, a);
@@ -37,6 +59,7 @@ void geometric_column_pass(const SimplexState& s, const std::vector<double>& row
   for (int j = first_scaled; j < s.n; ++j) {
     double lo = HUGE_VAL, hi = 0.0;
     for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k) {
+      if (!steers_scaling(s, j, k)) continue;
       const double a = std::fabs(s.value[k]) * row[s.row_index[k]];
       lo = std::min(lo, a);
       hi = std::max(hi, a);
@@ -53,6 +76,7 @@ void geometric_row_pass(SimplexState& s, std::vector<double>& row, const std::ve
   }
   for (int j = 0; j < s.n; ++j) {
     for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k) {
+      if (!steers_scaling(s, j, k)) continue;
       const int i = s.row_index[k];
       const double a = std::fabs(s.value[k]) * col[j];
       lo[i] = std::min(lo[i], a);
@@ -72,6 +96,7 @@ void compute_scales(SimplexState& s, const SimplexSettings& settings) {
   if (settings.scale_option > 0 && s.m > 0) {
     // Option 1 scales the linear part only: columns of the nonlinear objective keep their units.
     const int first_scaled = settings.scale_option == 1 ? std::min(s.nnobj, s.n) : 0;
+    set_negligible_floors(s);
     double spread = column_spread(s, row, col);
     for (int pass = 0; pass < kScalePasses; ++pass) {
       geometric_column_pass(s, row, col, first_scaled);

@@ -39,6 +39,7 @@ struct SimplexCounters {
   int factorizations = 0;
   int singular_repairs = 0;
   int regobj_calls = 0;
+  int cleanup_rounds = 0;  // re-solves with tolerances tightened after the check in true units
   bool reused_factors = false;  // the solve started from the factors kept from the last one
   bool reused_scales = false;
 };
@@ -85,6 +86,20 @@ struct SimplexState {
   std::vector<double> col_scale_work;  // [n] scratch for the scaling passes
   std::vector<double> row_scale_work;  // [m]
   std::vector<double> row_min_work;    // [m]
+  std::vector<double> row_floor_work;  // [m] entries below this and their column's floor do not
+  std::vector<double> col_floor_work;  // [n] steer the scale factors
+  // Feasibility and optimality tolerances of each variable in working units: the options' values
+  // unless the check of the solution in true units has tightened them.
+  std::vector<double> primal_tol;  // [n + m]
+  std::vector<double> dual_tol;    // [n + m]
+  std::vector<double> implied_row;  // [m] scratch of the check: each logical's value from A x
+  // What primal_tol and dual_tol hold: the options' values over this many variables, unless a
+  // check has tightened some.
+  int tolerances_filled = 0;
+  double filled_feasibility_tol = 0.0;
+  double filled_optimality_tol = 0.0;
+  bool tolerances_tightened = false;
+  bool candidates_rejected = false;  // rejected holds marks of this or the last solve
   bool costs_shifted = false;
   bool bounds_perturbed = false;
 
@@ -125,7 +140,7 @@ struct SimplexState {
   bool dual_weights_valid = false;
   int partial_start = 0;
   int entering_direction = 1;   // +1 up, -1 down, set by the primal pricing
-  std::vector<int> rejected;    // [n + m] iteration + 1 in which a candidate was turned down
+  std::vector<int> rejected;    // [n + m] not a candidate to enter before this iteration count
 
   // Work vectors.
   SparseVector column;  // [m] the entering column, transformed

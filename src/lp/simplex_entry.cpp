@@ -71,7 +71,6 @@ bool prepare_basis(SimplexState& s, const ProblemSlot& slot, const SimplexSettin
 // infeasibilities call for. An infeasible problem always ends with a primal phase 1, so that its
 // duals are those of the sum of infeasibilities.
 int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Units& units) {
-  const double tol = settings.feasibility_tol;
   if (!s.factors_valid) {
     const int code = factorize_basis(s, settings, units);
     if (code != kExitOptimal) return code;
@@ -79,11 +78,11 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
   int code = kExitOptimal;
   for (int round = 0; round < 4; ++round) {
     compute_primal_values(s);
-    measure_infeasibility(s, tol);
+    measure_infeasibility(s);
     s.phase = 2;
-    set_basic_costs(s, tol);
+    set_basic_costs(s);
     compute_duals(s);
-    const bool dual_feasible = count_dual_infeasible(s, settings.optimality_tol) == 0;
+    const bool dual_feasible = count_dual_infeasible(s) == 0;
     if (s.ninf == 0 && dual_feasible) {
       code = kExitOptimal;
       break;
@@ -108,12 +107,42 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
   // infeasibilities when infeasible).
   if (s.factors_valid) {
     compute_primal_values(s);
-    measure_infeasibility(s, tol);
+    measure_infeasibility(s);
     s.phase = code == kExitInfeasible ? 1 : 2;
     for (int p = 0; p < s.m; ++p) s.basic_cost[p] = std::nan("");
-    set_basic_costs(s, tol);
+    set_basic_costs(s);
     compute_duals(s);
     if (code == kExitInfeasible && s.ninf == 0) code = kExitNumerical;
+  }
+  return code;
+}
+
+// One solve of the working problem from the current basis, ending with the duals of its final
+// point (of the gradient when the objective is quadratic).
+int solve_from_basis(SimplexState& s, const SimplexSettings& settings, Units& units,
+                     const Regularization& regularization) {
+  if (!s.quadratic) return solve_working_problem(s, settings, units);
+  const int code = run_reduced_gradient(s, settings, units, regularization);
+  if (s.factors_valid && code != kExitInfeasible) {
+    // Duals and reduced gradients of the final point, with the true costs kept in base_cost.
+    compute_primal_values(s);
+    evaluate_quadratic_gradient(s, regularization);
+  }
+  return code;
+}
+
+// Solves, then checks the solution in true units; where it falls short, the offending variables'
+// tolerances are tightened and the solve continues from the basis on fresh factors.
+int solve_to_true_tolerances(SimplexState& s, const SimplexSettings& settings, Units& units,
+                             const Regularization& regularization) {
+  reset_tolerances(s, settings);
+  int code = solve_from_basis(s, settings, units, regularization);
+  for (int round = 0; round < kCleanupRounds && code == kExitOptimal && s.factors_valid; ++round) {
+    if (tighten_unscaled_violations(s, settings) == 0) break;
+    ++s.counters.cleanup_rounds;
+    s.factors_valid = false;
+    clear_rejections(s);
+    code = solve_from_basis(s, settings, units, regularization);
   }
   return code;
 }
@@ -143,13 +172,8 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   }
   s.quadratic = slot.nnobj > 0;
   s.nonlinear_objective = 0.0;
-  const int code = s.quadratic ? run_reduced_gradient(s, settings, units, regularization)
-                               : solve_working_problem(s, settings, units);
-  if (s.quadratic && s.factors_valid && code != kExitInfeasible) {
-    // Duals and reduced gradients of the final point, with the true costs kept in base_cost.
-    compute_primal_values(s);
-    evaluate_quadratic_gradient(s, regularization);
-  }
+  clear_rejections(s);
+  const int code = solve_to_true_tolerances(s, settings, units, regularization);
   store_solution(s, slot, code == kExitInfeasible);
   if (code != kExitOptimal) return code;
   // Optimal or near-optimal: the largest reduced gradient against the size of the duals.
@@ -175,12 +199,16 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.col_index.assign(nemax, 0);
   s.row_value.assign(nemax, 0.0);
   for (auto* v : {&s.cost, &s.base_cost, &s.lower, &s.upper, &s.base_lower, &s.base_upper, &s.scale, &s.x, &s.d,
-                  &s.primal_weight, &s.pivot_row, &s.candidate_ratio, &s.hessian_diag, &s.centre, &s.search})
+                  &s.primal_weight, &s.primal_tol, &s.dual_tol, &s.pivot_row, &s.candidate_ratio, &s.hessian_diag,
+                  &s.centre, &s.search})
     v->assign(nt, 0.0);
   std::fill(s.scale.begin(), s.scale.end(), 1.0);
   s.col_scale_work.assign(nmax, 1.0);
   s.row_scale_work.assign(mmax, 1.0);
   s.row_min_work.assign(mmax, 0.0);
+  s.row_floor_work.assign(mmax, 0.0);
+  s.implied_row.assign(mmax, 0.0);
+  s.col_floor_work.assign(nmax, 0.0);
   s.source_ka.assign(nmax + 1, 0);
   s.source_ha.assign(nemax, 0);
   s.source_a.assign(nemax, 0.0);

@@ -75,7 +75,7 @@ void log_iteration(SimplexState& s, const SimplexSettings& settings, Units& unit
   const bool to_summary =
       settings.summary_unit > 0 && settings.summary_frequency > 0 && itn % settings.summary_frequency == 0;
   if (!to_print && !to_summary) return;
-  measure_infeasibility(s, settings.feasibility_tol);
+  measure_infeasibility(s);
   if (!s.log_header_written) {
     if (settings.print_unit > 0) write_log_header(s, settings, units, settings.print_unit);
     if (settings.summary_unit > 0) write_log_header(s, settings, units, settings.summary_unit);

@@ -15,8 +15,10 @@ inline constexpr double kPivotMismatch = 1.0e-8;
 // Devex and dual steepest edge weights are restarted when one grows beyond this.
 inline constexpr double kWeightResetLimit = 1.0e6;
 inline constexpr double kWeightFloor = 1.0e-4;
-// Iterations with no objective progress before bounds (primal) or costs (dual) are perturbed.
+// Iterations with no objective progress before bounds (primal) or costs (dual) are perturbed. An
+// iteration progresses when it improves the best value reached by this share of it.
 inline constexpr int kStallBeforePerturb = 50;
+inline constexpr double kProgressMargin = 1.0e-12;
 // Relative and absolute size of a perturbation.
 inline constexpr double kPerturbRelative = 1.0e-6;
 inline constexpr double kPerturbAbsolute = 1.0e-7;
@@ -39,6 +41,19 @@ inline constexpr double kPhaseOneSlack = 1.0;
 inline constexpr int kScalePasses = 20;
 inline constexpr double kScaleMin = 1.0e-10;
 inline constexpr double kScaleMax = 1.0e10;
+// An entry this many times smaller than the largest of its row and than the largest of its column
+// is left out of the scaling passes: round-off residue (cut coefficients that should be zero)
+// would otherwise pull the geometric means of its row and column by many orders of magnitude.
+inline constexpr double kScaleNegligible = 1.0e-10;
+// The solution is checked in the problem's own units after every solve: a violation counts when
+// it exceeds the feasibility (optimality) tolerance and also this share of the largest number
+// that enters it (|a_ij x_j| terms of a row, |x_j| of a column; |c_j| and |a_ij pi_i| of a
+// reduced cost), so that rows and duals of size 1e7 are not held to accuracies below round-off.
+inline constexpr double kUnscaledRelative = 1.0e-9;
+// Where the check finds a violation the variable's working tolerance is cut to this share of the
+// true-unit tolerance, and the solve continues from its basis; at most this many rounds.
+inline constexpr double kTightenShare = 0.5;
+inline constexpr int kCleanupRounds = 3;
 // Refactorizations in a row without an iteration in between before exit 12.
 inline constexpr int kRefactorsInARow = 3;
 

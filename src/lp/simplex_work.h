@@ -1,6 +1,7 @@
 #pragma once
 // Internals shared by the simplex files: the settings of one solve taken from the options, the
 // exit codes, and the operations on the working problem and its basis.
+#include <algorithm>
 #include <cmath>
 
 #include "lp/simplex.h"
@@ -66,10 +67,10 @@ bool head_matches_slot(const SimplexState& s, const ProblemSlot& slot);
 void place_nonbasic(SimplexState& s, int j);
 int factorize_basis(SimplexState& s, const SimplexSettings& settings, Units& units);
 void compute_primal_values(SimplexState& s);
-bool set_basic_costs(SimplexState& s, double feasibility_tol);
+bool set_basic_costs(SimplexState& s);
 void compute_duals(SimplexState& s);
-void measure_infeasibility(SimplexState& s, double feasibility_tol);
-int count_dual_infeasible(const SimplexState& s, double optimality_tol);
+void measure_infeasibility(SimplexState& s);
+int count_dual_infeasible(const SimplexState& s);
 double max_dual_infeasibility(const SimplexState& s);
 double working_objective(const SimplexState& s);
 void load_column(const SimplexState& s, int j, SparseVector& v);
@@ -82,12 +83,17 @@ void restore_costs(SimplexState& s);
 void restore_bounds(SimplexState& s);
 double next_random(SimplexState& s);
 
+// The solution checked in true units, and the tolerances tightened where it falls short
+// (unscaled_check.cpp).
+void reset_tolerances(SimplexState& s, const SimplexSettings& settings);
+int tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings);
+
 // Pricing (pricing.cpp).
 void reset_primal_weights(SimplexState& s);
 int choose_entering(SimplexState& s, const SimplexSettings& settings);
 void update_primal_weights(SimplexState& s, int q, int r, double pivot);
 void reset_dual_weights(SimplexState& s);
-int choose_leaving(SimplexState& s, const SimplexSettings& settings);
+int choose_leaving(SimplexState& s);
 void update_dual_weights(SimplexState& s, int r, double pivot);
 
 // Ratio tests (ratio_test.cpp).
@@ -128,6 +134,33 @@ void write_factor_events(const LuReport& report, double factor_tol, int m,
 
 inline bool is_boxed(const SimplexState& s, int j) {
   return std::isfinite(s.lower[j]) && std::isfinite(s.upper[j]);
+}
+
+// Variable j may not enter before the iteration count reaches `until`.
+inline void reject_entering(SimplexState& s, int j, int until) {
+  s.rejected[j] = until;
+  s.candidates_rejected = true;
+}
+void clear_rejections(SimplexState& s);
+
+// How far a basic variable lies beyond its bounds widened by its tolerance (0 within them).
+inline double primal_infeasibility(const SimplexState& s, int j) {
+  const double x = s.x[j];
+  if (x < s.lower[j] - s.primal_tol[j]) return s.lower[j] - x;
+  if (x > s.upper[j] + s.primal_tol[j]) return x - s.upper[j];
+  return 0.0;
+}
+
+// A reduced cost of the wrong sign for its variable's state (a fixed variable never counts).
+inline double dual_infeasibility(const SimplexState& s, int j) {
+  if (s.lower[j] == s.upper[j]) return 0.0;
+  switch (s.state[j]) {
+    case kNonbasicLower: return std::max(0.0, -s.d[j]);
+    case kNonbasicUpper: return std::max(0.0, s.d[j]);
+    case kNonbasicFree:
+    case kSuperbasicVar: return std::fabs(s.d[j]);
+    default: return 0.0;
+  }
 }
 
 }  // namespace tarvo::lp
