@@ -95,8 +95,9 @@ void apply_flips(SimplexState& s) {
 }  // namespace
 
 int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units) {
-  int code = refresh(s, settings, units, !s.factors_valid);
-  if (code != kExitOptimal) return code;
+  if (make_dual_feasible(s)) compute_primal_values(s);
+  if (!s.dual_weights_valid) reset_dual_weights(s);
+  int code = kExitOptimal;
   bool fresh = true;
   int degenerate = 0;
   int refactors_in_a_row = 0;

@@ -84,6 +84,9 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
     }
   }
   s.col_start[s.n] = ne;
+  // Solve vectors span this problem's rows, not the slot's capacity: their dense passes then
+  // cost O(m). The capacity stays, so no allocation happens here.
+  for (auto* v : {&s.column, &s.rho, &s.tau, &s.work}) sparse_resize(*v, s.m);
 
   s.source_m = slot.m;
   s.source_n = slot.n;

@@ -76,6 +76,9 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     if (code != kExitOptimal) return code;
   }
   int code = kExitOptimal;
+  // True while x_B, y and d are those of the phase 2 objective at the current basis and costs;
+  // then the final values need not be computed again.
+  bool values_fresh = false;
   for (int round = 0; round < 4; ++round) {
     compute_primal_values(s);
     measure_infeasibility(s);
@@ -85,12 +88,14 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     const bool dual_feasible = count_dual_infeasible(s) == 0;
     if (s.ninf == 0 && dual_feasible) {
       code = kExitOptimal;
+      values_fresh = true;
       break;
     }
     if (s.ninf == 0) {
       code = run_primal(s, settings, units);
     } else {
       code = run_dual(s, settings, units);
+      values_fresh = code == kExitOptimal;
       if (code == kExitInfeasible) {
         restore_costs(s);
         code = run_primal(s, settings, units);
@@ -98,11 +103,16 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     }
     if (code != kExitOptimal) break;
     if (!s.costs_shifted && !s.bounds_perturbed) break;
+    values_fresh = false;
     restore_costs(s);
     restore_bounds(s);
   }
   if (s.costs_shifted) restore_costs(s);
   if (s.bounds_perturbed) restore_bounds(s);
+  if (values_fresh) {
+    measure_infeasibility(s);
+    return code;
+  }
   // Final values from the factors, with the duals of the objective (or of the sum of
   // infeasibilities when infeasible).
   if (s.factors_valid) {

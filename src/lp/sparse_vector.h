@@ -12,7 +12,8 @@ struct SparseVector {
   std::vector<double> value;   // dense values, length size; zero outside index[0..count)
 };
 
-void sparse_resize(SparseVector& v, int size);  // allocates once; sets every value to zero
+// Sets every value to zero; allocates only when size exceeds every size the vector had before.
+void sparse_resize(SparseVector& v, int size);
 void sparse_clear(SparseVector& v);             // zeroes the listed positions, count = 0
 // Appends i to the pattern if not listed. O(1), except when position i holds a zero: then the
 // pattern is scanned, so fill an empty vector by writing index and value directly.
