@@ -262,9 +262,9 @@ LuStatus lu_factorize(LuFactors& lu, int m, int n, const int* col_start, const i
   double tol = std::max(1.0, settings.factor_tol);
   report.factor_tol_used = tol;
   const int elements = basis_element_count(m, n, col_start, basis_head);
-  lu.build.u_row.reserve(elements);  // U holds at least the loaded entries
-  lu.build.u_col.reserve(elements);
-  lu.build.u_value.reserve(elements);
+  reserve_to(lu.build.u_row, elements);  // U holds at least the loaded entries
+  reserve_to(lu.build.u_col, elements);
+  reserve_to(lu.build.u_value, elements);
   for (;;) {
     load_basis(lu, col_start, row_index, value, basis_head);
     lu_factor_nucleus(lu, tol, settings);

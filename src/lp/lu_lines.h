@@ -39,10 +39,17 @@ void lines_erase_slot(SparseLines& s, int line, int slot);
 // Packs all runs to the front in their present order.
 void lines_compress(SparseLines& s);
 
-// Grows a vector to at least n elements, doubling its capacity so that repeated growth is cheap.
+// Makes room for at least n elements, doubling the capacity so that repeated growth is cheap
+// and a run of slightly larger requests stops allocating after the first.
+template <typename T>
+void reserve_to(std::vector<T>& v, std::size_t n) {
+  if (n > v.capacity()) v.reserve(std::max(n, 2 * v.capacity()));
+}
+
+// Grows a vector to at least n elements, with the capacity doubling of reserve_to.
 template <typename T>
 void grow_to(std::vector<T>& v, std::size_t n) {
-  if (n > v.capacity()) v.reserve(std::max(n, 2 * v.capacity()));
+  reserve_to(v, n);
   if (n > v.size()) v.resize(n);
 }
 

@@ -121,7 +121,9 @@ void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_uni
 int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int start,
                   double& objective, double& /*spare1*/, std::vector<double>& duals,
                   double& /*spare2*/, std::vector<double>& primal) {
-  set_option(opt.options, units, "MPS file 0", 0, 0);
+  // "MPS file 0" for every solve, set directly: parsing the phrase would cost more than the
+  // re-solve of a subproblem and writes nothing anyway.
+  opt.options.ival[kMpsFile] = 0;
   ProblemSlot& s = active_slot(opt);
   inform = 0;
   inform = optimizer_solve(opt.solver[opt.active], opt.options, units, s, start_word(start),

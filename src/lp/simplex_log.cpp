@@ -87,6 +87,7 @@ void log_iteration(SimplexState& s, const SimplexSettings& settings, Units& unit
 
 void write_exit_message(int inform, int stall_count, int superbasics_limit, const SimplexSettings& settings,
                         Units& units) {
+  if (settings.print_unit <= 0 && settings.summary_unit <= 0) return;  // most solves: build no text
   std::string line;
   switch (inform) {
     case kExitOptimal: line = " EXIT -- optimal solution found"; break;
