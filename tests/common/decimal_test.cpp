@@ -15,10 +15,8 @@ TEST(Decimal, ExactExpansionOfDoubles) {
     std::size_t digit_count;
     int point;
   } cases[] = {
-      {0.1, "1000000000000000055511151231257827021181583404541015625", 55, 0},
-      {1.5, "15", 2, 1},
-      {100.0, "1", 1, 3},
-      {0.00125, "125000000000000002602085213965", 0, -2},
+      {0.1, "1000000000000000055511151231257827021181583404541015625", 55, 0}, {1.5, "15", 2, 1},
+      {100.0, "1", 1, 3}, {0.00125, "125000000000000002602085213965", 0, -2},
       {1.0e20f, "100000002004087734272", 21, 21},
       {std::numeric_limits<double>::denorm_min(), "4940656458412465441765687928682213723650", 751, -323},
       {std::numeric_limits<double>::max(), "17976931348623157", 309, 309},
@@ -34,19 +32,6 @@ TEST(Decimal, ExactExpansionOfDoubles) {
     EXPECT_EQ(d.point, c.point);
     EXPECT_FALSE(d.negative);
   }
-}
-
-TEST(Decimal, ZeroAndSign) {
-  const Decimal zero = exact_decimal(0.0);
-  EXPECT_EQ(zero.digits, "");
-  EXPECT_FALSE(zero.negative);
-  const Decimal negative_zero = exact_decimal(-0.0);
-  EXPECT_EQ(negative_zero.digits, "");
-  EXPECT_TRUE(negative_zero.negative);
-  const Decimal negative = exact_decimal(-2.5);
-  EXPECT_EQ(negative.digits, "25");
-  EXPECT_EQ(negative.point, 1);
-  EXPECT_TRUE(negative.negative);
 }
 
 TEST(Decimal, RoundsToNearestWithTiesToEven) {

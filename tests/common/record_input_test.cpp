@@ -56,14 +56,9 @@ TEST(RecordInput, ReadsFixedColumns) {
        "[    ]|[    ]|[    ]|[    ]|[    ]|1500|[    ]|[    ]|0.01"},
       {"(bn,a4,a8,2x,a8,2x,e12.0,3x,a8,2x,e12.0)", at_columns({{1, "*ab"}, {5, "PERIOD2"}, {25, "7"}}),
        "[*ab ]|[PERIOD2 ]|[        ]|7|[        ]|0"},
-      {"((a))", "eval", "[eval]"},
-      {"(a2,a)", "abcdef", "[ab]|[cdef]"},
-      {"(a8)", "ab", "[ab      ]"},
-      {"(4x,a4)", "1234ABCD", "[ABCD]"},
-      {"(a4,/,a4)", "ABCDEFGH", "[ABCD]|[    ]"},
-      {"(a2,'xyz',a2)", "ab---cd", "[ab]|[cd]"},
-      {"(i5,i3)", "  -42 4 ", "i-42|i4"},
-      {"(i5)", " 4 2 ", "i42"},
+      {"((a))", "eval", "[eval]"}, {"(a2,a)", "abcdef", "[ab]|[cdef]"}, {"(a8)", "ab", "[ab      ]"},
+      {"(4x,a4)", "1234ABCD", "[ABCD]"}, {"(a4,/,a4)", "ABCDEFGH", "[ABCD]|[    ]"},
+      {"(a2,'xyz',a2)", "ab---cd", "[ab]|[cd]"}, {"(i5,i3)", "  -42 4 ", "i-42|i4"}, {"(i5)", " 4 2 ", "i42"},
       {"(2(i2,1x))", " 1  2 ", "i1|i2"},
       {"(f5.2)", "  123", "1.23"},       // no point: the last d digits are decimals
       {"(f5.2)", " 1.5 ", "1.5"},
@@ -85,14 +80,9 @@ TEST(RecordInput, FieldsThatAreNoNumbersFail) {
     const char* list;
     std::string line;
   } cases[] = {
-      {kMpsList, at_columns({{25, "abc"}})},
-      {kMpsList, at_columns({{50, "1.5e"}})},
-      {kMpsList, at_columns({{25, "1e999"}})},
-      {"(i5)", "  4.2"},
-      {"(i3)", "1e2"},
-      {"(l2)", " x"},
-      {"(f5.2)", "1,5"},
-      {"(q5)", "12345"},
+      {kMpsList, at_columns({{25, "abc"}})}, {kMpsList, at_columns({{50, "1.5e"}})},
+      {kMpsList, at_columns({{25, "1e999"}})}, {"(i5)", "  4.2"}, {"(i3)", "1e2"}, {"(l2)", " x"},
+      {"(f5.2)", "1,5"}, {"(q5)", "12345"},
   };
   for (const auto& c : cases) {
     InputRecord record;
@@ -114,28 +104,12 @@ TEST(RecordInput, RealFields) {
     bool ok;
     double value;
   } cases[] = {
-      {"", true, 0.0},
-      {"            ", true, 0.0},
-      {"1.5", true, 1.5},
-      {" 1 . 5 ", true, 1.5},
-      {"  -3", true, -3.0},
-      {"1e3", true, 1000.0},
-      {"1E3", true, 1000.0},
-      {"1d3", true, 1000.0},
-      {"1 D 3", true, 1000.0},
-      {"1.5+3", true, 1500.0},
-      {"1.5-3", true, 0.0015},
-      {"+.5", true, 0.5},
-      {"1e-400", true, 0.0},
-      {"abc", false, 0.0},
-      {"1e", false, 0.0},
-      {"--1", false, 0.0},
-      {"1.5E3X", false, 0.0},
-      {"1e400", false, 0.0},
-      {"1,5", false, 0.0},
-      {".", false, 0.0},
-      {"-", false, 0.0},
-      {"\t1", false, 0.0},
+      {"", true, 0.0}, {"            ", true, 0.0}, {"1.5", true, 1.5}, {" 1 . 5 ", true, 1.5},
+      {"  -3", true, -3.0}, {"1e3", true, 1000.0}, {"1E3", true, 1000.0}, {"1d3", true, 1000.0},
+      {"1 D 3", true, 1000.0}, {"1.5+3", true, 1500.0}, {"1.5-3", true, 0.0015}, {"+.5", true, 0.5},
+      {"1e-400", true, 0.0}, {"abc", false, 0.0}, {"1e", false, 0.0}, {"--1", false, 0.0},
+      {"1.5E3X", false, 0.0}, {"1e400", false, 0.0}, {"1,5", false, 0.0}, {".", false, 0.0},
+      {"-", false, 0.0}, {"\t1", false, 0.0},
   };
   for (const auto& c : cases) {
     double value = -99.0;
@@ -150,15 +124,8 @@ TEST(RecordInput, IntegerFields) {
     bool ok;
     long long value;
   } cases[] = {
-      {"", true, 0},
-      {"    ", true, 0},
-      {" 12 ", true, 12},
-      {"1 2", true, 12},
-      {"-5", true, -5},
-      {"- 5", true, -5},
-      {"1.0", false, 0},
-      {"x", false, 0},
-      {"99999999999999999999", false, 0},
+      {"", true, 0}, {"    ", true, 0}, {" 12 ", true, 12}, {"1 2", true, 12}, {"-5", true, -5},
+      {"- 5", true, -5}, {"1.0", false, 0}, {"x", false, 0}, {"99999999999999999999", false, 0},
   };
   for (const auto& c : cases) {
     long long value = -99;

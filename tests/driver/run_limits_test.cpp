@@ -67,8 +67,7 @@ TEST(RunLimits, MissingModelFilesEndWithTheirMessage) {
     const char* missing;
     const char* message;
   } cases[] = {
-      {"MODEL.STO", " ERROR in file MODEL.STO\n"},
-      {"MODEL.TIM", "ERROR: No file MODEL.TIM"},
+      {"MODEL.STO", " ERROR in file MODEL.STO\n"}, {"MODEL.TIM", "ERROR: No file MODEL.TIM"},
       {"MODEL.COR", "ERROR: No file MODEL.COR"},
   };
   for (const auto& c : cases) {

@@ -8,22 +8,6 @@
 namespace tarvo::input::testing {
 namespace {
 
-bool is_prime(int value) {
-  for (int d = 2; d * d <= value; ++d) {
-    if (value % d == 0) return false;
-  }
-  return value > 1;
-}
-
-TEST(NameHash, TableLengthIsAPrimeAtLeastTwiceTheCapacity) {
-  EXPECT_EQ(hash_table_length(10), 101);
-  for (int rows : {0, 1, 49, 50, 51, 100, 999, 3000, 12345}) {
-    const int length = hash_table_length(rows);
-    EXPECT_GE(length, std::max(2 * rows, 100)) << rows;
-    EXPECT_TRUE(is_prime(length)) << rows << " " << length;
-  }
-}
-
 // Inserts names as rows 1, 2, ...; returns false when one had no room or was already there.
 bool insert_all(NameHash& hash, std::vector<lp::Name8>& rows, const std::vector<std::string>& names) {
   for (const std::string& text : names) {

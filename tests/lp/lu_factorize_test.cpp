@@ -119,8 +119,7 @@ TEST(LuFactorize, RejectsInvalidInput) {
   const Case cases[] = {
       {"row out of range", {{0, 1.0}, {5, 1.0}}, {0, 2}, 0, 1},
       {"repeated row", {{1, 1.0}, {1, 2.0}}, {1, 0}, 1, 1},
-      {"variable out of range", {{0, 1.0}}, {0, 3}, 1, -1},
-      {"negative variable", {{0, 1.0}}, {-1, 0}, 0, -1},
+      {"variable out of range", {{0, 1.0}}, {0, 3}, 1, -1}, {"negative variable", {{0, 1.0}}, {-1, 0}, 0, -1},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);

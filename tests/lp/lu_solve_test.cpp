@@ -78,8 +78,7 @@ TEST(SparseVector, OperationsKeepThePattern) {
     int count_after_rebuild;
   };
   const Case cases[] = {
-      {"distinct", {{0, 1.0}, {3, -2.0}}, 0.0, 2, 2},
-      {"overwrite", {{2, 1.0}, {2, 5.0}}, 0.0, 1, 1},
+      {"distinct", {{0, 1.0}, {3, -2.0}}, 0.0, 2, 2}, {"overwrite", {{2, 1.0}, {2, 5.0}}, 0.0, 1, 1},
       {"set to zero stays listed", {{2, 1.0}, {2, 0.0}, {2, 4.0}}, 0.0, 1, 1},
       {"zero never listed", {{1, 0.0}}, 0.0, 0, 0},
       {"rebuild drops small", {{0, 1e-12}, {4, 3.0}}, 1e-10, 2, 1},

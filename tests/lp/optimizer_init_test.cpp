@@ -18,14 +18,7 @@ using Lines = std::vector<std::string>;
 constexpr int kOut = 17;
 constexpr int kErr = 48;
 
-const std::string kSampleOptions =
-    "BEGIN  options for the bundled test problems\n"
-    "   ROWS                   3000\n"
-    "   COLUMNS               10000\n"
-    "   ELEMENTS             120000\n"
-    "   ITERATIONS LIMIT     200000\n"
-    "   PRINT LEVEL               0\n"
-    "END\n";
+using tarvo::testing::kSampleOptions;
 
 struct InitCase {
   const char* name;
@@ -39,10 +32,10 @@ struct InitCase {
 };
 
 const InitCase kCases[] = {
-    {"sample, no debug", kSampleOptions.c_str(), 0, 0, {}, 3000, 10000, 120000, 0,
+    {"sample, no debug", kSampleOptions, 0, 0, {}, 3000, 10000, 120000, 0,
      {"      BEGIN  options for the bundled test problems", "         ITERATIONS LIMIT     200000",
       "      END", "      SUMMARY FILE 0", "      PRINT   FILE 0"}},
-    {"sample, debug", kSampleOptions.c_str(), 1, 0, {}, 3000, 10000, 120000, kPrintUnit},
+    {"sample, debug", kSampleOptions, 1, 0, {}, 3000, 10000, 120000, kPrintUnit},
     {"missing file", nullptr, 0, kInitFailed,
      {" ERROR: SPECS file SIMPLEX.SPC not found"}, 0, 0, 0, 0},
     {"faulty file", "BEGIN\nROWS 40\nBOGUS\nEND\n", 0, kInitFailed,
@@ -103,24 +96,6 @@ struct Initialized {
   }
 };
 
-TEST(OptimizerSlots, SelectedSlotIsChangedInPlace) {
-  Initialized run;
-  Optimizer& opt = run.opt;
-  for (int k : {kSubproblemSlot, kCoreSlot, kMasterSlot}) {
-    select_problem(opt, k);
-    active_slot(opt).m = 10 * k;
-    active_slot(opt).bl[1] = k;
-  }
-  for (int k = kMasterSlot; k <= kCoreSlot; ++k) {
-    EXPECT_EQ(opt.slot[k].m, 10 * k);
-    EXPECT_EQ(opt.slot[k].bl[1], k);
-  }
-  select_problem(opt, kSubproblemSlot);
-  select_problem(opt, 0);
-  select_problem(opt, 4);
-  EXPECT_EQ(&active_slot(opt), &opt.slot[kSubproblemSlot]);
-}
-
 TEST(OptimizerSlots, ObjectiveModeSetsCountsAndOptions) {
   Initialized run;
   Optimizer& opt = run.opt;
@@ -154,8 +129,7 @@ struct RegobjCase {
 TEST(Regobj, ProximalTermLeavesTheLastColumnOut) {
   const RegobjCase cases[] = {
       {2.0, {0, 1, 4, 100}, {0, 0, 2, 50}, {0, 0.5, 1, 0}, 1.25},
-      {0.5, {0, -1, 0, 7}, {0, 1, 0, -3}, {0, -4, 0, 0}, 4.0},
-      {1.0, {0, 9}, {0, 1}, {0, 0}, 0.0},
+      {0.5, {0, -1, 0, 7}, {0, 1, 0, -3}, {0, -4, 0, 0}, 4.0}, {1.0, {0, 9}, {0, 1}, {0, 0}, 0.0},
   };
   for (const RegobjCase& c : cases) {
     const Regularization reg{.xhat = c.xhat, .rho = c.rho};
