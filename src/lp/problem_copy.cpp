@@ -108,25 +108,28 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
   s.dual_weights_valid = false;
 }
 
-void load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings) {
+bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings) {
   const int nt = s.n + s.m;
   s.sense = settings.sense;
-  std::fill(s.base_cost.begin(), s.base_cost.begin() + nt, 0.0);
+  // The new costs go to `cost` first, so that they can be compared with the previous ones.
+  std::fill(s.cost.begin(), s.cost.begin() + nt, 0.0);
   if (s.objective_row > 0) {
     for (int j = 0; j < s.n; ++j)
       for (int k = slot.ka[j + 1]; k < slot.ka[j + 2]; ++k)
-        if (slot.ha[k] == s.objective_row) s.base_cost[j] += s.sense * slot.a[k] * s.scale[j];
+        if (slot.ha[k] == s.objective_row) s.cost[j] += s.sense * slot.a[k] * s.scale[j];
   }
+  const bool costs_changed = !std::equal(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
+  std::copy(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
   for (int j = 0; j < nt; ++j) {
     const int k = j < s.n ? j + 1 : slot.n + s.slot_row[j - s.n];
     s.base_lower[j] = working_lower(slot.bl[k], s.scale[j]);
     s.base_upper[j] = working_upper(slot.bu[k], s.scale[j]);
   }
-  std::copy(s.base_cost.begin(), s.base_cost.begin() + nt, s.cost.begin());
   std::copy(s.base_lower.begin(), s.base_lower.begin() + nt, s.lower.begin());
   std::copy(s.base_upper.begin(), s.base_upper.begin() + nt, s.upper.begin());
   s.costs_shifted = false;
   s.bounds_perturbed = false;
+  return costs_changed;
 }
 
 // Unscales the working solution into the slot: xn (columns, then each row's logical, which is

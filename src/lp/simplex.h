@@ -131,6 +131,9 @@ struct SimplexState {
   LuSettings lu_settings;
   LuReport lu_report;
   bool factors_valid = false;
+  // y and d are the phase 2 duals of the current basis and costs, as the last optimal solve
+  // left them: a re-solve after right-hand side or bound changes starts from them.
+  bool duals_current = false;
   int updates = 0;           // basis changes since the last factorization
   bool refactor_due = false;
 

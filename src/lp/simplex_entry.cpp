@@ -72,6 +72,7 @@ bool prepare_basis(SimplexState& s, const ProblemSlot& slot, const SimplexSettin
 // duals are those of the sum of infeasibilities.
 int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Units& units) {
   if (!s.factors_valid) {
+    s.duals_current = false;  // fresh factors are there to recompute everything from
     const int code = factorize_basis(s, settings, units);
     if (code != kExitOptimal) return code;
   }
@@ -83,8 +84,10 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     compute_primal_values(s);
     measure_infeasibility(s);
     s.phase = 2;
-    set_basic_costs(s);
-    compute_duals(s);
+    if (round > 0 || !s.duals_current) {
+      set_basic_costs(s);
+      compute_duals(s);
+    }
     const bool dual_feasible = count_dual_infeasible(s) == 0;
     if (s.ninf == 0 && dual_feasible) {
       code = kExitOptimal;
@@ -109,6 +112,7 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
   }
   if (s.costs_shifted) restore_costs(s);
   if (s.bounds_perturbed) restore_bounds(s);
+  s.duals_current = code == kExitOptimal;
   if (values_fresh) {
     measure_infeasibility(s);
     return code;
@@ -123,6 +127,8 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     set_basic_costs(s);
     compute_duals(s);
     if (code == kExitInfeasible && s.ninf == 0) code = kExitNumerical;
+  } else {
+    s.duals_current = false;
   }
   return code;
 }
@@ -174,13 +180,14 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   } else {
     s.counters.reused_scales = true;
   }
-  load_costs_and_bounds(s, slot, settings);
+  const bool costs_changed = load_costs_and_bounds(s, slot, settings);
   s.counters.reused_factors = prepare_basis(s, slot, settings, mode, matrix_kept);
   if (!s.counters.reused_factors) {
     s.factors_valid = false;
     s.dual_weights_valid = false;
   }
   s.quadratic = slot.nnobj > 0;
+  s.duals_current = s.duals_current && matrix_kept && s.counters.reused_factors && !costs_changed && !s.quadratic;
   s.nonlinear_objective = 0.0;
   clear_rejections(s);
   const int code = solve_to_true_tolerances(s, settings, units, regularization);
