@@ -150,13 +150,17 @@ double newton_direction(SimplexState& s) {
 }
 
 // Largest step along s.search that keeps every basic and superbasic variable within its bounds,
-// with the variable that stops it (or -1).
+// with the variable that stops it (or -1). A basic variable that moves by less than the pivot
+// floor relative to the superbasics does not block: its row of W has no entry to exchange it on.
 double longest_step(const SimplexState& s, int& blocking) {
   double step = kInf;
   blocking = -1;
+  double largest = 0.0;
+  for (int k = 0; k < s.superbasic_count; ++k) largest = std::max(largest, std::fabs(s.search[s.superbasic[k]]));
+  const double negligible = kRatioPivotFloor * largest;
   for (int j = 0; j < s.n + s.m; ++j) {
     const double pj = s.search[j];
-    if (pj == 0.0) continue;
+    if (pj == 0.0 || (s.state[j] == kBasicVar && std::fabs(pj) < negligible)) continue;
     const double room = pj > 0.0 ? s.upper[j] - s.x[j] : s.x[j] - s.lower[j];
     const double t = std::max(0.0, room) / std::fabs(pj);
     if (t < step) {
