@@ -94,8 +94,8 @@ void apply_flips(SimplexState& s) {
 
 }  // namespace
 
-int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units) {
-  if (make_dual_feasible(s)) compute_primal_values(s);
+int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, bool dual_feasible) {
+  if (!dual_feasible && make_dual_feasible(s)) compute_primal_values(s);
   if (!s.dual_weights_valid) reset_dual_weights(s);
   int code = kExitOptimal;
   bool fresh = true;

@@ -97,7 +97,7 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     if (s.ninf == 0) {
       code = run_primal(s, settings, units);
     } else {
-      code = run_dual(s, settings, units);
+      code = run_dual(s, settings, units, dual_feasible);
       values_fresh = code == kExitOptimal;
       if (code == kExitInfeasible) {
         restore_costs(s);

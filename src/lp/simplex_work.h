@@ -118,8 +118,9 @@ DualStep dual_ratio_test(SimplexState& s, double infeasibility, const SimplexSet
 // The two methods (primal_simplex.cpp, dual_simplex.cpp) and the quadratic objective
 // (reduced_gradient.cpp). Each returns an exit code.
 int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units);
-// Starts from the phase 2 values of the current basis on valid factors, as the caller leaves them.
-int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units);
+// Starts from the phase 2 values of the current basis on valid factors, as the caller leaves them;
+// `dual_feasible` tells whether the caller found every reduced cost within its tolerance.
+int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, bool dual_feasible);
 int run_reduced_gradient(SimplexState& s, const SimplexSettings& settings, Units& units,
                          const Regularization& regularization);
 void evaluate_quadratic_gradient(SimplexState& s, const Regularization& regularization);
