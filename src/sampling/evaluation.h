@@ -87,6 +87,9 @@ struct Evaluation {
                                    // the approximation is used; the points follow from 2)
   std::vector<double> point_u;     // capacity rows x n1: C' pi of every point
   std::vector<int> order;          // [1..capacity] the order in which points are solved
+  // The next reordered pass runs its order backwards: it then starts at the outcome the last pass
+  // ended on, whose basis the warm start holds, instead of at the far end of the order.
+  bool visit_backwards = false;
   std::vector<int> visit_step;     // [1..nblocks] scratch of the serpentine order
   std::vector<char> solved;        // [1..capacity] point already solved in this pass
   int infeasible_point = 0;        // the point whose infeasibility ended the last pass, or 0

@@ -151,9 +151,11 @@ int settle_first_infeasible(const Context& ctx, Evaluation& ev, const PassPlan& 
 
 int solve_reordered(const Context& ctx, Evaluation& ev, const PassPlan& plan, int& startflag) {
   order_points(ctx, ev, plan);
+  const bool backwards = ev.visit_backwards;
+  ev.visit_backwards = !backwards;
   int previous = 0;
   for (int v = 1; v <= plan.rows; ++v) {
-    const int k = ev.order[v];
+    const int k = ev.order[backwards ? plan.rows + 1 - v : v];
     if (previous != 0 && rows_equal(ev, previous, k)) {
       copy_point(ev, plan, previous, k);
       ev.solved[k] = 1;

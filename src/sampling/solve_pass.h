@@ -6,7 +6,8 @@
 // in which consecutive outcomes differ little, so that the warm starts are short: a sample in
 // lexicographic order of its rows (a point whose row equals the one solved just before takes that
 // point's results without a solve), the universe in serpentine order (every step changes one
-// block by one outcome). Every point's cost and dual product are stored, and the estimators then
+// block by one outcome); each such pass runs its order the other way from the pass before, so it
+// starts on the outcome the last one ended on. Every point's cost and dual product are stored, and the estimators then
 // run in table order, so the estimates do not depend on the order of the solves.
 #include "sampling/evaluation.h"
 
