@@ -7,8 +7,9 @@
 // lexicographic order of its rows (a point whose row equals the one solved just before takes that
 // point's results without a solve), the universe in serpentine order (every step changes one
 // block by one outcome); each such pass runs its order the other way from the pass before, so it
-// starts on the outcome the last one ended on. Every point's cost and dual product are stored, and the estimators then
-// run in table order, so the estimates do not depend on the order of the solves.
+// starts on the outcome the last one ended on. Every point's cost and dual product are stored,
+// and the estimators then run in table order, so the estimates do not depend on the order of the
+// solves.
 #include "sampling/evaluation.h"
 
 namespace tarvo::sampling {
