@@ -14,7 +14,7 @@ int count_of(const std::string& text, const std::string& part) {
   return n;
 }
 
-TEST(RunFiles, BannerReportsAndExitLine) {
+TEST(RunFiles, BannerReportsSizesAndExitLine) {
   const fs::path dir = fresh_directory("files");
   write_file(dir / "SIMPLEX.SPC", kSampleOptions);
   const ProgramRun run = run_program(TARVO_BINARY, dir, "");
@@ -26,6 +26,10 @@ TEST(RunFiles, BannerReportsAndExitLine) {
   EXPECT_TRUE(fs::exists(dir / "MODEL.SCR"));
   EXPECT_FALSE(fs::exists(dir / "MODEL.SPR"));
   EXPECT_FALSE(fs::exists(dir / "MODEL.SOG"));
+  EXPECT_TRUE(fs::exists(dir / "MODEL.MO"));
+  EXPECT_TRUE(contains(read_file(dir / "MODEL.SCR"),
+                       " Simplex specs file:\n rows:     3000\n columss:  10000\n"
+                       " elements: 120000\n \n"));
   fs::remove_all(dir);
 }
 
@@ -49,17 +53,6 @@ TEST(RunFiles, MissingOptionsFileStopsBeforeTheModel) {
   EXPECT_TRUE(contains(run.console, " ERROR exit\n")) << run.console;
   EXPECT_FALSE(contains(run.console, "ERROR Exit"));
   EXPECT_TRUE(contains(read_file(dir / "MODEL.SCR"), " parameters: "));
-  fs::remove_all(dir);
-}
-
-TEST(RunFiles, OptionSizesAreEchoedToTheScreenLog) {
-  const fs::path dir = fresh_directory("specs");
-  write_file(dir / "SIMPLEX.SPC", kSampleOptions);
-  run_program(TARVO_BINARY, dir, "");
-  EXPECT_TRUE(contains(read_file(dir / "MODEL.SCR"),
-                       " Simplex specs file:\n rows:     3000\n columss:  10000\n"
-                       " elements: 120000\n \n"));
-  EXPECT_TRUE(fs::exists(dir / "MODEL.MO"));
   fs::remove_all(dir);
 }
 

@@ -13,11 +13,13 @@ TEST(RunLimits, LimitsEndTheRunNormallyWithTheirWarning) {
     const char* inp;
     const char* warning;     // in MODEL.ERR and the screen log
     const char* log_line;    // in the screen log
+    const char* summary;     // how the run summary in fort.15 starts
   } cases[] = {
-      {"iteration limit", "4 istrat\n1 maxit\n", "warning: iterations limit reached.", ""},
-      {"time limit", "4 istrat\n0 maxtime\n", "warning: time limit reached.", ""},
+      {"iteration limit", "4 istrat\n1 maxit\n", "warning: iterations limit reached.", "", "   1"},
+      {"time limit", "4 istrat\n0 maxtime\n", "warning: time limit reached.", "", "   1"},
+      // The iteration count no longer fits its field.
       {"cut rows run out", "4 istrat\n1 nzrows\n", "warning: iterations limit reached.",
-       " not enough nzrows, program terminated\n"},
+       " not enough nzrows, program terminated\n", "****"},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -30,15 +32,12 @@ TEST(RunLimits, LimitsEndTheRunNormallyWithTheirWarning) {
     EXPECT_EQ(run.sog.status, 1);
     EXPECT_EQ(run.sog.solsta, 1);  // the normal exit reports solver status 1 whatever stopped it
     EXPECT_TRUE(contains(read_file(run.dir / "MODEL.SOL"), "-UNIVERSE- SOLUTION:"));
+    EXPECT_EQ(read_file(run.dir / "fort.15").substr(0, 4), c.summary);
+    if (c.summary[0] == '*') {
+      EXPECT_TRUE(contains(run.program.console, " 999999"));
+    }
     fs::remove_all(run.dir);
   }
-}
-
-TEST(RunLimits, CutRowsRunningOutShowAsAsterisksInTheSummary) {
-  const ExampleRun run = run_example("stormg2-8", "4 istrat\n1 nzrows\n");
-  EXPECT_EQ(read_file(run.dir / "fort.15").substr(0, 4), "****");
-  EXPECT_TRUE(contains(run.program.console, " 999999"));
-  fs::remove_all(run.dir);
 }
 
 TEST(RunLimits, UndefinedStrategySolvesNothing) {
