@@ -63,25 +63,14 @@ void reserve_line(SparseLines& s, int line, int need) {
   s.used += need;
 }
 
-// Takes the entries of column p out of U (both copies).
-void remove_u_column(LuFactors& lu, int p) {
-  SparseLines& cols = lu.u_cols;
-  for (int s = cols.start[p]; s < cols.start[p] + cols.length[p]; ++s) {
-    const int i = cols.index[s];
-    lines_erase_slot(lu.u_rows, i, lines_find(lu.u_rows, i, p));
+// Takes line `line` of one copy of U out of both copies: `mirror` is the transposed copy.
+void remove_u_line(LuFactors& lu, SparseLines& lines, SparseLines& mirror, int line) {
+  for (int s = lines.start[line]; s < lines.start[line] + lines.length[line]; ++s) {
+    const int other = lines.index[s];
+    lines_erase_slot(mirror, other, lines_find(mirror, other, line));
   }
-  lu.length_u -= cols.length[p];
-  cols.length[p] = 0;
-}
-
-void remove_u_row(LuFactors& lu, int r) {
-  SparseLines& rows = lu.u_rows;
-  for (int s = rows.start[r]; s < rows.start[r] + rows.length[r]; ++s) {
-    const int q = rows.index[s];
-    lines_erase_slot(lu.u_cols, q, lines_find(lu.u_cols, q, r));
-  }
-  lu.length_u -= rows.length[r];
-  rows.length[r] = 0;
+  lu.length_u -= lines.length[line];
+  lines.length[line] = 0;
 }
 
 void append_eta(LuFactors& lu, int r) {
@@ -151,8 +140,8 @@ LuStatus lu_update(LuFactors& lu, int position, const LuSettings& settings) {
   if (lu.eta_length + eta_entries > static_cast<int>(lu.eta_index.size()) || !u_has_room(lu)) {
     return refuse(lu, LuRefusal::storage);
   }
-  remove_u_column(lu, p);
-  remove_u_row(lu, r);
+  remove_u_line(lu, lu.u_cols, lu.u_rows, p);
+  remove_u_line(lu, lu.u_rows, lu.u_cols, r);
   append_eta(lu, r);
   insert_spike(lu, p, r);
   sparse_clear(lu.scratch);
