@@ -217,15 +217,20 @@ void measure_infeasibility(SimplexState& s) {
   }
 }
 
+// Fixed variables are screened last: few reduced costs have the wrong sign at all.
 int count_dual_infeasible(const SimplexState& s) {
   int count = 0;
-  for (int j = 0; j < s.n + s.m; ++j) count += dual_infeasibility(s, j) > s.dual_tol[j];
+  for (int j = 0; j < s.n + s.m; ++j)
+    count += wrong_sign_part(s.state[j], s.d[j]) > s.dual_tol[j] && s.lower[j] != s.upper[j];
   return count;
 }
 
 double max_dual_infeasibility(const SimplexState& s) {
   double worst = 0.0;
-  for (int j = 0; j < s.n + s.m; ++j) worst = std::max(worst, dual_infeasibility(s, j));
+  for (int j = 0; j < s.n + s.m; ++j) {
+    const double wrong = wrong_sign_part(s.state[j], s.d[j]);
+    if (wrong > worst && s.lower[j] != s.upper[j]) worst = wrong;
+  }
   return worst;
 }
 
@@ -243,7 +248,9 @@ void compute_pivot_row(SimplexState& s) {
   }
   s.pivot_count = 0;
   const SparseVector& rho = s.rho;
-  if (rho.count < kRowwiseDensity * s.m) {
+  long long rowwise_entries = 0;
+  for (int t = 0; t < rho.count; ++t) rowwise_entries += s.row_start[rho.index[t] + 1] - s.row_start[rho.index[t]];
+  if (rowwise_entries < kRowwiseShare * s.col_start[s.n]) {
     for (int t = 0; t < rho.count; ++t) {
       const int i = rho.index[t];
       const double ri = rho.value[i];

@@ -241,6 +241,9 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.candidate.assign(nt, 0);
   s.rejected.assign(nt, -1);
   s.flipped.assign(nt, 0);
+  s.row_mark.assign(mmax, 0);
+  s.objective_col.assign(nemax, 0);
+  s.objective_at.assign(nemax, 0);
   s.superbasic.assign(nt, 0);
   s.regobj_x.assign(nmax + 1, 0.0);
   s.regobj_g.assign(nmax + 1, 0.0);
