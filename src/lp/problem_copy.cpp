@@ -44,6 +44,7 @@ bool slot_matrix_unchanged(const SimplexState& s, const ProblemSlot& slot, int s
     return false;
   if (std::memcmp(s.source_ka.data(), slot.ka.data() + 1, sizeof(int) * (slot.n + 1)) != 0) return false;
   if (std::memcmp(s.source_ha.data(), slot.ha.data() + 1, sizeof(int) * slot.ne) != 0) return false;
+  if (std::memcmp(s.source_a.data(), slot.a.data() + 1, sizeof(double) * slot.ne) == 0) return true;
   const int iobj = objective_row_of(slot);
   for (int k = 0; k < slot.ne; ++k)
     if (s.source_a[k] != slot.a[k + 1] && slot.ha[k + 1] != iobj) return false;

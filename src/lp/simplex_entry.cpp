@@ -59,10 +59,11 @@ bool prepare_basis(SimplexState& s, const ProblemSlot& slot, const SimplexSettin
     else slack_basis(s);
     return false;
   }
-  const bool reuse = matrix_kept && s.factors_valid && head_matches_slot(s, slot) &&
-                     (mode.kind == StartKind::warm || mode.keep_factors);
-  basis_from_slot(s, slot, reuse);
-  return reuse;
+  if (matrix_kept && s.factors_valid && (mode.kind == StartKind::warm || mode.keep_factors) &&
+      keep_basis_from_slot(s, slot))
+    return true;
+  basis_from_slot(s, slot);
+  return false;
 }
 
 // Solves the working problem from the prepared basis: the primal method from a primal feasible

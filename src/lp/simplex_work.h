@@ -63,8 +63,8 @@ void slack_basis(SimplexState& s);
 void crash_basis(SimplexState& s, int option, double tolerance);
 
 // The basis and the quantities derived from it (basis.cpp).
-void basis_from_slot(SimplexState& s, const ProblemSlot& slot, bool keep_head);
-bool head_matches_slot(const SimplexState& s, const ProblemSlot& slot);
+void basis_from_slot(SimplexState& s, const ProblemSlot& slot);
+bool keep_basis_from_slot(SimplexState& s, const ProblemSlot& slot);
 void place_nonbasic(SimplexState& s, int j);
 int factorize_basis(SimplexState& s, const SimplexSettings& settings, Units& units);
 void compute_primal_values(SimplexState& s);
