@@ -116,7 +116,7 @@ void solve_l(LuFactors& lu, SparseVector& x) {
   mark_pattern(lu, x, 1);
   for (int k = 0; k < lu.l_forward_count; ++k) {
     const int r = lu.l_forward[k];
-    scatter_listed(lu, lu.l_cols, x, r, r);
+    if (v[r] != 0.0) scatter_listed(lu, lu.l_cols, x, r, r);
   }
   mark_pattern(lu, x, 0);
 }
@@ -135,7 +135,7 @@ void solve_l_transposed(LuFactors& lu, SparseVector& x) {
   mark_pattern(lu, x, 1);
   for (int k = 0; k < lu.l_backward_count; ++k) {
     const int i = lu.l_backward[k];
-    scatter_listed(lu, lu.l_rows, x, i, i);
+    if (v[i] != 0.0) scatter_listed(lu, lu.l_rows, x, i, i);
   }
   mark_pattern(lu, x, 0);
 }
@@ -183,30 +183,28 @@ void apply_etas_transposed(LuFactors& lu, SparseVector& x) {
 
 // Back substitution for the pivot on row r: the value of its position goes to out, and the
 // column of U carries it into the rows above.
-bool back_substitute(LuFactors& lu, double* x, double* out, int r) {
+void back_substitute(LuFactors& lu, double* x, double* out, int r) {
   double xr = x[r];
-  if (xr == 0.0) return false;
+  if (xr == 0.0) return;
   x[r] = 0.0;
   xr /= lu.diag[r];
   const int p = lu.col_of_row[r];
   out[p] = xr;
   const SparseLines& u = lu.u_cols;
   for (int s = u.start[p]; s < u.start[p] + u.length[p]; ++s) x[u.index[s]] -= u.value[s] * xr;
-  return true;
 }
 
 // Forward substitution with U^T for position p: its row's value goes to out, and the row of U
 // carries it into the positions after it.
-bool forward_substitute(LuFactors& lu, double* x, double* out, int p) {
+void forward_substitute(LuFactors& lu, double* x, double* out, int p) {
   double xp = x[p];
-  if (xp == 0.0) return false;
+  if (xp == 0.0) return;
   x[p] = 0.0;
   const int r = lu.row_of_col[p];
   xp /= lu.diag[r];
   out[r] = xp;
   const SparseLines& u = lu.u_rows;
   for (int s = u.start[r]; s < u.start[r] + u.length[r]; ++s) x[u.index[s]] -= u.value[s] * xp;
-  return true;
 }
 
 // Moves the values gathered in lu.work (all else of x is zero by now) back into x. `map` turns a
@@ -242,7 +240,9 @@ void solve_u(LuFactors& lu, SparseVector& x) {
   int count = 0;
   for (int k = lu.order_length - 1; k >= 0; --k) {
     const int r = lu.order_row[k];
-    if (r >= 0 && back_substitute(lu, v, out, r)) lu.reach[count++] = r;
+    if (r < 0 || v[r] == 0.0) continue;
+    back_substitute(lu, v, out, r);
+    lu.reach[count++] = r;
   }
   take_work(lu, x, count, lu.col_of_row.data());
 }
@@ -291,7 +291,9 @@ void lu_solve_u_transposed(LuFactors& lu, SparseVector& x) {
   int count = 0;
   for (int k = 0; k < lu.order_length; ++k) {
     const int p = lu.order_col[k];
-    if (p >= 0 && forward_substitute(lu, v, out, p)) lu.reach[count++] = p;
+    if (p < 0 || v[p] == 0.0) continue;
+    forward_substitute(lu, v, out, p);
+    lu.reach[count++] = p;
   }
   take_work(lu, x, count, lu.row_of_col.data());
 }

@@ -125,13 +125,12 @@ bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const Simpl
   }
   const bool costs_changed = !std::equal(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
   std::copy(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
-  for (int j = 0; j < nt; ++j) {
-    const int k = j < s.n ? j + 1 : slot.n + s.slot_row[j - s.n];
-    s.base_lower[j] = working_lower(slot.bl[k], s.scale[j]);
-    s.base_upper[j] = working_upper(slot.bu[k], s.scale[j]);
-  }
-  std::copy(s.base_lower.begin(), s.base_lower.begin() + nt, s.lower.begin());
-  std::copy(s.base_upper.begin(), s.base_upper.begin() + nt, s.upper.begin());
+  const auto load_bounds = [&s, &slot](int j, int k) {
+    s.lower[j] = s.base_lower[j] = working_lower(slot.bl[k], s.scale[j]);
+    s.upper[j] = s.base_upper[j] = working_upper(slot.bu[k], s.scale[j]);
+  };
+  for (int j = 0; j < s.n; ++j) load_bounds(j, j + 1);
+  for (int i = 0; i < s.m; ++i) load_bounds(s.n + i, slot.n + s.slot_row[i]);
   s.costs_shifted = false;
   s.bounds_perturbed = false;
   return costs_changed;
