@@ -23,6 +23,17 @@ double row_probability(const Context& ctx, const Evaluation& ev, int k) {
   return p;
 }
 
+// Whether the next pass restarts each point from its own basis, after a pass that took `average`
+// pivots per solve.
+void choose_restart(Evaluation& ev, double average) {
+  if (ev.restart_from_point_bases) {
+    ev.restart_from_point_bases = average + kRestartCost < ev.neighbour_pivots;
+  } else {
+    ev.neighbour_pivots = average;
+    ev.restart_from_point_bases = average > kPointBasisPivots;
+  }
+}
+
 }  // namespace
 
 void estimate_universe(const Context& ctx, Evaluation& ev) {
@@ -41,17 +52,13 @@ int evaluniv(const Context& ctx, Evaluation& ev, int& startflag) {
   if (ev.collect == 1) clear_accumulators(ev);
   const PassPlan plan{.rows = ev.nsamples, .cost_offset = 0, .mode = 3, .visit = Visit::serpentine,
                       .collect = CollectRule::scenario, .point_bases = true};
+  // The pass holding the run's cold start says nothing about warm starts.
+  const bool warm_pass = startflag != 0;
   const long long solves = ev.lp_solves;
   const long long pivots = ev.lp_pivots;
   if (solve_points(ctx, ev, plan, startflag) != kOk) return kErrorExit;
   const long long solved = ev.lp_solves - solves;
-  const double average = solved > 0 ? static_cast<double>(ev.lp_pivots - pivots) / solved : 0.0;
-  if (ev.restart_from_point_bases) {
-    ev.restart_from_point_bases = average + kRestartCost < ev.neighbour_pivots;
-  } else {
-    ev.neighbour_pivots = average;
-    ev.restart_from_point_bases = average > kPointBasisPivots;
-  }
+  if (warm_pass && solved > 0) choose_restart(ev, static_cast<double>(ev.lp_pivots - pivots) / solved);
   if (ev.infeasible_point != 0) {
     end_on_infeasible(ctx, ev, plan);
     return kOk;
