@@ -11,6 +11,10 @@ namespace tarvo::lp {
 
 namespace {
 
+// Updates per factorization that the factors reserve room for: the default factorization
+// frequency (a larger one grows the update file on its first use).
+constexpr int kReservedUpdates = 100;
+
 enum class StartKind { cold, warm, hot };
 
 struct StartMode {
@@ -249,6 +253,7 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.regobj_x.assign(nmax + 1, 0.0);
   s.regobj_g.assign(nmax + 1, 0.0);
   for (auto* v : {&s.column, &s.rho, &s.tau, &s.work}) sparse_resize(*v, mmax);
+  lu_reserve(s.lu, mmax, nemax, kReservedUpdates);
 }
 
 int simplex_workspace_needed(int m, int n, int ne) {
