@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "common/free_format.h"
+#include "lp/optimizer.h"
 #include "sampling/cut.h"
 #include "sampling/importance.h"
 #include "sampling/sample_tables.h"
 #include "sampling/subproblem.h"
-#include "lp/optimizer.h"
 
 namespace tarvo::sampling {
 
