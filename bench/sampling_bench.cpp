@@ -2,12 +2,17 @@
 // optimum): universe evaluations of stormg2-8 and stormg2-1000 with the pivots per solve, and a
 // crude Monte Carlo sample of stormg2-1000 solved in table order and in the reordered pass.
 //
+// Every operator new is counted: the evaluations after the first, and the warm solves, must not
+// allocate.
+//
 // Run as: sampling_bench [source directory]; without it the examples are looked for in the current
 // directory and its parents.
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
+#include <cstdlib>
 #include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -28,6 +33,8 @@ namespace fs = std::filesystem;
 using namespace tarvo;
 
 namespace {
+
+long long g_allocations = 0;
 
 struct Model {
   Units units;
@@ -131,16 +138,22 @@ void report_pivots(const char* name, const char* what, const Pivots& p) {
 void bench_universe(Model& m, const char* name, int repeats) {
   const sampling::Context ctx = m.context();
   const long long solves_before = m.ev.lp_solves;
+  long long allocations = 0;
   const auto start = std::chrono::steady_clock::now();
   for (int r = 0; r < repeats; ++r) {
+    const long long before = g_allocations;
     if (sampling::evaluate(ctx, m.ev, 4) != sampling::kOk) std::printf("evaluation failed\n");
+    if (r > 0) allocations += g_allocations - before;
   }
   const double elapsed = seconds_since(start);
   std::printf("%-13s universe of %d: %8.0f solves/s over %d evaluations, objs %.6e\n", name, m.ev.nsamples,
               (m.ev.lp_solves - solves_before) / elapsed, repeats, m.ev.cut.objs);
   const int rows = m.ev.nsamples;
+  const long long before = g_allocations;
   report_pivots(name, "universe, table order", count_pivots(m, {.rows = rows, .visit = sampling::Visit::table}));
   report_pivots(name, "universe, serpentine", count_pivots(m, {.rows = rows, .visit = sampling::Visit::serpentine}));
+  std::printf("%-13s allocations: %lld in evaluations after the first, %lld in the warm solves\n", name,
+              allocations, g_allocations - before);
 }
 
 // The same crude samples evaluated in table order (collecting forces it) and reordered, then the
@@ -182,6 +195,23 @@ fs::path find_source(const fs::path& start) {
 }
 
 }  // namespace
+
+namespace {
+
+void* counted_allocation(std::size_t size) {
+  ++g_allocations;
+  if (void* p = std::malloc(size == 0 ? 1 : size)) return p;
+  throw std::bad_alloc();
+}
+
+}  // namespace
+
+void* operator new(std::size_t size) { return counted_allocation(size); }
+void* operator new[](std::size_t size) { return counted_allocation(size); }
+void operator delete(void* p) noexcept { std::free(p); }
+void operator delete[](void* p) noexcept { std::free(p); }
+void operator delete(void* p, std::size_t) noexcept { std::free(p); }
+void operator delete[](void* p, std::size_t) noexcept { std::free(p); }
 
 int main(int argc, char** argv) {
   const fs::path source = argc > 1 ? fs::path(argv[1]) : find_source(fs::current_path());

@@ -32,36 +32,39 @@ void place_nonbasic(SimplexState& s, int j) {
   s.state[j] = st;
 }
 
+namespace {
+
+// Nonbasic variable j takes the state slot entry k gives it, and the value that goes with it.
+void take_nonbasic_state(SimplexState& s, const ProblemSlot& slot, int j, int k) {
+  const int hs = slot.hs[k];
+  if (hs == kSuperbasic) {
+    s.state[j] = kSuperbasicVar;
+    s.x[j] = slot.xn[k] / s.scale[j];
+  } else {
+    s.state[j] = hs == kAtUpper ? kNonbasicUpper : kNonbasicLower;
+  }
+  place_nonbasic(s, j);
+}
+
+}  // namespace
+
 // Takes hs (and xn for superbasics) as the starting basis. Too many basic variables: the last
 // ones become nonbasic; too few: logicals fill the gap (the factorization repairs the rest).
-// With keep_head the basic variables (known to match hs) keep their positions and only the
-// nonbasic states are taken.
-void basis_from_slot(SimplexState& s, const ProblemSlot& slot, bool keep_head) {
+void basis_from_slot(SimplexState& s, const ProblemSlot& slot) {
   const int nt = s.n + s.m;
   int count = 0;
   for (int j = 0; j < nt; ++j) {
     const int k = j < s.n ? j + 1 : slot.n + s.slot_row[j - s.n];
     const int hs = slot.hs[k];
-    if (keep_head) {
-      if (s.state[j] == kBasicVar) continue;
-    } else {
-      s.position[j] = -1;
-    }
-    if (hs == kBasic && count < s.m && !keep_head) {
+    s.position[j] = -1;
+    if (hs == kBasic && count < s.m) {
       s.state[j] = kBasicVar;
       s.position[j] = count;
       s.head[count++] = j;
       continue;
     }
-    if (hs == kSuperbasic) {
-      s.state[j] = kSuperbasicVar;
-      s.x[j] = slot.xn[k] / s.scale[j];
-    } else {
-      s.state[j] = hs == kAtUpper ? kNonbasicUpper : kNonbasicLower;
-    }
-    place_nonbasic(s, j);
+    take_nonbasic_state(s, slot, j, k);
   }
-  if (keep_head) return;
   for (int i = 0; i < s.m && count < s.m; ++i) {
     const int j = s.n + i;
     if (s.state[j] == kBasicVar) continue;
@@ -71,20 +74,23 @@ void basis_from_slot(SimplexState& s, const ProblemSlot& slot, bool keep_head) {
   }
 }
 
-// True when the slot's basic variables are exactly those of the kept basis.
-bool head_matches_slot(const SimplexState& s, const ProblemSlot& slot) {
-  int count = 0;
+// The kept basis when the slot's basic variables are exactly its own: then only the nonbasic
+// states and values are taken, in the same pass that compares. Returns false, with the states
+// partly taken, at the first difference.
+bool keep_basis_from_slot(SimplexState& s, const ProblemSlot& slot) {
   for (int j = 0; j < s.n; ++j) {
-    const bool basic = slot.hs[j + 1] == kBasic;
-    if (basic != (s.state[j] == kBasicVar)) return false;
-    count += basic;
+    const int hs = slot.hs[j + 1];
+    if ((hs == kBasic) != (s.state[j] == kBasicVar)) return false;
+    if (hs != kBasic) take_nonbasic_state(s, slot, j, j + 1);
   }
   for (int i = 0; i < s.m; ++i) {
-    const bool basic = slot.hs[slot.n + s.slot_row[i]] == kBasic;
-    if (basic != (s.state[s.n + i] == kBasicVar)) return false;
-    count += basic;
+    const int j = s.n + i;
+    const int k = slot.n + s.slot_row[i];
+    const int hs = slot.hs[k];
+    if ((hs == kBasic) != (s.state[j] == kBasicVar)) return false;
+    if (hs != kBasic) take_nonbasic_state(s, slot, j, k);
   }
-  return count == s.m;
+  return true;
 }
 
 int factorize_basis(SimplexState& s, const SimplexSettings& settings, Units& units) {
@@ -217,15 +223,20 @@ void measure_infeasibility(SimplexState& s) {
   }
 }
 
+// Fixed variables are screened last: few reduced costs have the wrong sign at all.
 int count_dual_infeasible(const SimplexState& s) {
   int count = 0;
-  for (int j = 0; j < s.n + s.m; ++j) count += dual_infeasibility(s, j) > s.dual_tol[j];
+  for (int j = 0; j < s.n + s.m; ++j)
+    count += wrong_sign_part(s.state[j], s.d[j]) > s.dual_tol[j] && s.lower[j] != s.upper[j];
   return count;
 }
 
 double max_dual_infeasibility(const SimplexState& s) {
   double worst = 0.0;
-  for (int j = 0; j < s.n + s.m; ++j) worst = std::max(worst, dual_infeasibility(s, j));
+  for (int j = 0; j < s.n + s.m; ++j) {
+    const double wrong = wrong_sign_part(s.state[j], s.d[j]);
+    if (wrong > worst && s.lower[j] != s.upper[j]) worst = wrong;
+  }
   return worst;
 }
 
@@ -243,7 +254,9 @@ void compute_pivot_row(SimplexState& s) {
   }
   s.pivot_count = 0;
   const SparseVector& rho = s.rho;
-  if (rho.count < kRowwiseDensity * s.m) {
+  long long rowwise_entries = 0;
+  for (int t = 0; t < rho.count; ++t) rowwise_entries += s.row_start[rho.index[t] + 1] - s.row_start[rho.index[t]];
+  if (rowwise_entries < kRowwiseShare * s.col_start[s.n]) {
     for (int t = 0; t < rho.count; ++t) {
       const int i = rho.index[t];
       const double ri = rho.value[i];

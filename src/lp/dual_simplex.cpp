@@ -17,13 +17,9 @@ namespace {
 bool make_dual_feasible(SimplexState& s) {
   bool flipped = false;
   for (int j = 0; j < s.n + s.m; ++j) {
+    if (!(wrong_sign_part(s.state[j], s.d[j]) > s.dual_tol[j]) || s.lower[j] == s.upper[j]) continue;
     const signed char st = s.state[j];
-    if (st == kBasicVar || s.lower[j] == s.upper[j]) continue;
     const double dj = s.d[j];
-    const double tol = s.dual_tol[j];
-    const bool wrong = (st == kNonbasicLower && dj < -tol) || (st == kNonbasicUpper && dj > tol) ||
-                       ((st == kNonbasicFree || st == kSuperbasicVar) && std::fabs(dj) > tol);
-    if (!wrong) continue;
     if (is_boxed(s, j)) {
       s.state[j] = st == kNonbasicLower ? kNonbasicUpper : kNonbasicLower;
       s.x[j] = s.state[j] == kNonbasicLower ? s.lower[j] : s.upper[j];
@@ -65,6 +61,15 @@ void perturb_costs(SimplexState& s) {
   s.costs_shifted = true;
 }
 
+// w[i] += v, listing i on its first touch: the pattern then costs what the flips touch, not O(m).
+void add_to_row(SimplexState& s, SparseVector& w, int i, double v) {
+  if (!s.row_mark[i]) {
+    s.row_mark[i] = 1;
+    w.index[w.count++] = i;
+  }
+  w.value[i] += v;
+}
+
 // Moves the flipped variables to their other bound and the basic variables with them.
 void apply_flips(SimplexState& s) {
   SparseVector& w = s.work;
@@ -77,13 +82,13 @@ void apply_flips(SimplexState& s) {
     s.x[j] = target;
     s.state[j] = to_upper ? kNonbasicUpper : kNonbasicLower;
     if (j >= s.n) {
-      w.value[j - s.n] += change;
+      add_to_row(s, w, j - s.n, change);
     } else {
-      for (int t = s.col_start[j]; t < s.col_start[j + 1]; ++t) w.value[s.row_index[t]] += s.value[t] * change;
+      for (int t = s.col_start[j]; t < s.col_start[j + 1]; ++t) add_to_row(s, w, s.row_index[t], s.value[t] * change);
     }
   }
   s.counters.bound_flips += s.flipped_count;
-  sparse_rebuild_pattern(w, 0.0);
+  for (int t = 0; t < w.count; ++t) s.row_mark[w.index[t]] = 0;
   lu_ftran(s.lu, w, false);
   for (int t = 0; t < w.count; ++t) {
     const int p = w.index[t];

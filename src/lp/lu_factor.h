@@ -133,6 +133,11 @@ struct LuFactors {
   LuBuild build;
 };
 
+// Reserves capacity for factorizations of up to m rows whose bases hold up to `elements` matrix
+// entries, with up to `updates` updates each, so that a run's factorizations and updates do not
+// allocate. Only capacity: memory is touched when a factorization uses it.
+void lu_reserve(LuFactors& lu, int m, int elements, int updates);
+
 // Factorizes the basis. basis_head[p] (p = 0..m-1) names the basic variable in position p; when
 // the basis is singular, dependent variables are swapped for logicals of the rows left without a
 // pivot (basis_head is changed) and singular_repaired is returned.

@@ -244,6 +244,46 @@ void lu_record_pivot(LuBuild& b, int r, int c) {
   ++b.steps;
 }
 
+void lu_reserve(LuFactors& lu, int m, int elements, int updates) {
+  LuBuild& b = lu.build;
+  const std::size_t rows = static_cast<std::size_t>(m) + 1;
+  for (auto* v : {&b.col_head, &b.col_next, &b.col_prev, &b.col_listed, &b.row_head, &b.row_next,
+                  &b.row_prev, &b.row_listed, &b.row_step, &b.col_step, &b.pivot_row,
+                  &b.pivot_col, &b.mult_stamp, &b.visit_stamp, &b.seen, &b.eta_pivot, &b.eta_start,
+                  &b.dense_rows, &b.dense_cols, &lu.l_rank, &lu.l_forward, &lu.l_backward, &lu.rank,
+                  &lu.row_of_col, &lu.col_of_row, &lu.spike_index, &lu.result_index, &lu.stack,
+                  &lu.reach}) {
+    v->reserve(rows);
+  }
+  for (auto* v : {&b.col_max, &b.mult, &lu.diag, &lu.spike_value, &lu.result_value, &lu.work}) v->reserve(rows);
+  lu.mark.reserve(rows);
+  // Entries: the basis columns and one per logical; the factors' own sizes follow the rules of
+  // lu_factorize (active lines at twice their entries, U and the row etas at the fill limit).
+  const std::size_t entries = static_cast<std::size_t>(elements) + m;
+  const std::size_t fill_limit = 3 * entries + 2 * rows;
+  for (auto* v : {&b.eta_index, &b.u_row, &b.u_col}) v->reserve(entries);
+  for (auto* v : {&b.eta_value, &b.u_value}) v->reserve(entries);
+  b.dense.reserve(2 * fill_limit);  // the dense block starts at half full, by the default density
+  const auto reserve_lines = [rows](SparseLines& lines, std::size_t capacity) {
+    for (auto* v : {&lines.start, &lines.length, &lines.room, &lines.by_start}) v->reserve(rows);
+    lines.index.reserve(capacity);
+    lines.value.reserve(capacity);
+  };
+  reserve_lines(b.cols, 2 * entries + 4 * rows);
+  reserve_lines(b.rows, 2 * entries + 4 * rows);
+  reserve_lines(lu.u_cols, 2 * fill_limit + 2 * kLuLineSlack * rows);
+  reserve_lines(lu.u_rows, 2 * fill_limit + 2 * kLuLineSlack * rows);
+  reserve_lines(lu.l_cols, entries);
+  reserve_lines(lu.l_rows, entries);
+  const std::size_t update_count = static_cast<std::size_t>(std::max(0, updates));
+  lu.eta_row.reserve(update_count);
+  lu.eta_start.reserve(update_count + 1);
+  lu.eta_index.reserve(fill_limit);
+  lu.eta_value.reserve(fill_limit);
+  lu.order_row.reserve(rows + update_count);
+  lu.order_col.reserve(rows + update_count);
+}
+
 LuStatus lu_factorize(LuFactors& lu, int m, int n, const int* col_start, const int* row_index,
                       const double* value, int* basis_head, const LuSettings& settings,
                       LuReport& report) {

@@ -16,9 +16,10 @@ inline constexpr int kLuSearchLimit = 4;
 // Slack slots per line of U, so that updates seldom move a line.
 inline constexpr int kLuLineSlack = 4;
 // A solve searches the reach of the nonzeros when they are at most this fraction of m, and falls
-// back to a full sweep when the reach passes the second fraction.
-inline constexpr double kLuHyperStart = 0.05;
-inline constexpr double kLuHyperAbandon = 0.10;
+// back to a full sweep when the reach passes the second fraction. A sweep that only lists what it
+// touches is cheap, so the search pays only for very sparse vectors.
+inline constexpr double kLuHyperStart = 0.02;
+inline constexpr double kLuHyperAbandon = 0.05;
 // An update is refused when its new diagonal and the pivot of the ftran result times the old
 // diagonal (equal in exact arithmetic) differ relatively by more than this.
 inline constexpr double kLuUpdateCheckTol = 1e-8;

@@ -82,6 +82,26 @@ void scatter_l_row(const LuFactors& lu, double* x, int i) {
   for (int s = l.start[i]; s < l.start[i] + l.length[i]; ++s) x[l.index[s]] -= l.value[s] * xi;
 }
 
+void mark_pattern(LuFactors& lu, const SparseVector& x, char flag) {
+  for (int k = 0; k < x.count; ++k) lu.mark[x.index[k]] = flag;
+}
+
+// x[i] -= mult * x[pivot] over one line of L, listing each index x did not list yet: a full sweep
+// then keeps the pattern for the price of what it touches instead of a pass over all m.
+void scatter_listed(LuFactors& lu, const SparseLines& l, SparseVector& x, int line, int pivot) {
+  const double xp = x.value[pivot];
+  if (xp == 0.0) return;
+  double* v = x.value.data();
+  for (int s = l.start[line]; s < l.start[line] + l.length[line]; ++s) {
+    const int i = l.index[s];
+    if (!lu.mark[i]) {
+      lu.mark[i] = 1;
+      x.index[x.count++] = i;
+    }
+    v[i] -= l.value[s] * xp;
+  }
+}
+
 void solve_l(LuFactors& lu, SparseVector& x) {
   double* v = x.value.data();
   if (worth_search(lu, x.count)) {
@@ -93,8 +113,12 @@ void solve_l(LuFactors& lu, SparseVector& x) {
       return;
     }
   }
-  for (int k = 0; k < lu.l_forward_count; ++k) scatter_l_column(lu, v, lu.l_forward[k]);
-  sparse_rebuild_pattern(x, 0.0);
+  mark_pattern(lu, x, 1);
+  for (int k = 0; k < lu.l_forward_count; ++k) {
+    const int r = lu.l_forward[k];
+    if (v[r] != 0.0) scatter_listed(lu, lu.l_cols, x, r, r);
+  }
+  mark_pattern(lu, x, 0);
 }
 
 void solve_l_transposed(LuFactors& lu, SparseVector& x) {
@@ -108,12 +132,12 @@ void solve_l_transposed(LuFactors& lu, SparseVector& x) {
       return;
     }
   }
-  for (int k = 0; k < lu.l_backward_count; ++k) scatter_l_row(lu, v, lu.l_backward[k]);
-  sparse_rebuild_pattern(x, 0.0);
-}
-
-void mark_pattern(LuFactors& lu, const SparseVector& x, char flag) {
-  for (int k = 0; k < x.count; ++k) lu.mark[x.index[k]] = flag;
+  mark_pattern(lu, x, 1);
+  for (int k = 0; k < lu.l_backward_count; ++k) {
+    const int i = lu.l_backward[k];
+    if (v[i] != 0.0) scatter_listed(lu, lu.l_rows, x, i, i);
+  }
+  mark_pattern(lu, x, 0);
 }
 
 // Row etas in the order the updates made them: x[r] -= m . x.
@@ -198,16 +222,6 @@ void take_work(LuFactors& lu, SparseVector& x, int count, const int* map) {
   }
 }
 
-void take_work_dense(LuFactors& lu, SparseVector& x) {
-  double* out = lu.work.data();
-  x.count = 0;
-  for (int at = 0; at < lu.m; ++at) {
-    if (out[at] == 0.0) continue;
-    x.value[at] = out[at];
-    out[at] = 0.0;
-    x.index[x.count++] = at;
-  }
-}
 
 // U x = rhs: rows in, positions out.
 void solve_u(LuFactors& lu, SparseVector& x) {
@@ -222,10 +236,15 @@ void solve_u(LuFactors& lu, SparseVector& x) {
       return;
     }
   }
+  // The sweep lists the positions it fills, in the order the search would have found them.
+  int count = 0;
   for (int k = lu.order_length - 1; k >= 0; --k) {
-    if (lu.order_row[k] >= 0) back_substitute(lu, v, out, lu.order_row[k]);
+    const int r = lu.order_row[k];
+    if (r < 0 || v[r] == 0.0) continue;
+    back_substitute(lu, v, out, r);
+    lu.reach[count++] = r;
   }
-  take_work_dense(lu, x);
+  take_work(lu, x, count, lu.col_of_row.data());
 }
 
 // Drops results below the drop tolerance, so that noise neither spreads nor fills patterns.
@@ -269,10 +288,14 @@ void lu_solve_u_transposed(LuFactors& lu, SparseVector& x) {
       return;
     }
   }
+  int count = 0;
   for (int k = 0; k < lu.order_length; ++k) {
-    if (lu.order_col[k] >= 0) forward_substitute(lu, v, out, lu.order_col[k]);
+    const int p = lu.order_col[k];
+    if (p < 0 || v[p] == 0.0) continue;
+    forward_substitute(lu, v, out, p);
+    lu.reach[count++] = p;
   }
-  take_work_dense(lu, x);
+  take_work(lu, x, count, lu.row_of_col.data());
 }
 
 void lu_ftran(LuFactors& lu, SparseVector& rhs, bool keep_spike) {

@@ -44,6 +44,7 @@ bool slot_matrix_unchanged(const SimplexState& s, const ProblemSlot& slot, int s
     return false;
   if (std::memcmp(s.source_ka.data(), slot.ka.data() + 1, sizeof(int) * (slot.n + 1)) != 0) return false;
   if (std::memcmp(s.source_ha.data(), slot.ha.data() + 1, sizeof(int) * slot.ne) != 0) return false;
+  if (std::memcmp(s.source_a.data(), slot.a.data() + 1, sizeof(double) * slot.ne) == 0) return true;
   const int iobj = objective_row_of(slot);
   for (int k = 0; k < slot.ne; ++k)
     if (s.source_a[k] != slot.a[k + 1] && slot.ha[k + 1] != iobj) return false;
@@ -68,10 +69,15 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
   int* last = s.candidate.data();  // position of each row's entry in the current column
   std::fill(last, last + s.m, -1);
   int ne = 0;
+  s.objective_count = 0;
   for (int j = 0; j < s.n; ++j) {
     s.col_start[j] = ne;
     for (int k = slot.ka[j + 1]; k < slot.ka[j + 2]; ++k) {
       const int i = slot.ha[k];
+      if (i == iobj && iobj > 0) {
+        s.objective_col[s.objective_count] = j;
+        s.objective_at[s.objective_count++] = k;
+      }
       if (i == iobj || i < 1 || i > slot.m || slot.a[k] == 0.0) continue;
       const int r = s.work_row[i];
       if (last[r] >= s.col_start[j]) {
@@ -113,20 +119,18 @@ bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const Simpl
   s.sense = settings.sense;
   // The new costs go to `cost` first, so that they can be compared with the previous ones.
   std::fill(s.cost.begin(), s.cost.begin() + nt, 0.0);
-  if (s.objective_row > 0) {
-    for (int j = 0; j < s.n; ++j)
-      for (int k = slot.ka[j + 1]; k < slot.ka[j + 2]; ++k)
-        if (slot.ha[k] == s.objective_row) s.cost[j] += s.sense * slot.a[k] * s.scale[j];
+  for (int t = 0; t < s.objective_count; ++t) {
+    const int j = s.objective_col[t];
+    s.cost[j] += s.sense * slot.a[s.objective_at[t]] * s.scale[j];
   }
   const bool costs_changed = !std::equal(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
   std::copy(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
-  for (int j = 0; j < nt; ++j) {
-    const int k = j < s.n ? j + 1 : slot.n + s.slot_row[j - s.n];
-    s.base_lower[j] = working_lower(slot.bl[k], s.scale[j]);
-    s.base_upper[j] = working_upper(slot.bu[k], s.scale[j]);
-  }
-  std::copy(s.base_lower.begin(), s.base_lower.begin() + nt, s.lower.begin());
-  std::copy(s.base_upper.begin(), s.base_upper.begin() + nt, s.upper.begin());
+  const auto load_bounds = [&s, &slot](int j, int k) {
+    s.lower[j] = s.base_lower[j] = working_lower(slot.bl[k], s.scale[j]);
+    s.upper[j] = s.base_upper[j] = working_upper(slot.bu[k], s.scale[j]);
+  };
+  for (int j = 0; j < s.n; ++j) load_bounds(j, j + 1);
+  for (int i = 0; i < s.m; ++i) load_bounds(s.n + i, slot.n + s.slot_row[i]);
   s.costs_shifted = false;
   s.bounds_perturbed = false;
   return costs_changed;
@@ -136,37 +140,43 @@ bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const Simpl
 // minus the row activity), pi = d obj / d row limit, rc = c - A^T pi, hs, ninf, sinf, obj.
 void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_duals) {
   const double sense = phase_one_duals ? 1.0 : s.sense;
-  double activity = 0.0;  // of the objective row
-  for (int j = 0; j < s.n + s.m; ++j) {
-    const int k = j < s.n ? j + 1 : slot.n + s.slot_row[j - s.n];
-    int hs = kAtLower;
-    double value = s.x[j] * s.scale[j];
+  static_assert(kBasicVar == 0 && kNonbasicLower == 1 && kNonbasicUpper == 2 && kNonbasicFree == 3 &&
+                kSuperbasicVar == 4);
+  static constexpr int kSlotState[] = {kBasic, kAtLower, kAtUpper, kAtLower, kSuperbasic};
+  // A nonbasic variable reports its bound exactly, a free one zero.
+  const auto value_of = [&](int j, int k) {
     switch (s.state[j]) {
-      case kBasicVar: hs = kBasic; break;
-      case kSuperbasicVar: hs = kSuperbasic; break;
-      case kNonbasicUpper:
-        hs = kAtUpper;
-        value = slot.bu[k];
-        break;
-      case kNonbasicLower: value = slot.bl[k]; break;
-      default: value = 0.0; break;
+      case kNonbasicUpper: return slot.bu[k];
+      case kNonbasicLower: return slot.bl[k];
+      case kNonbasicFree: return 0.0;
+      default: return s.x[j] * s.scale[j];
     }
-    slot.hs[k] = hs;
+  };
+  double activity = 0.0;  // of the objective row
+  int superbasics = 0;
+  for (int j = 0; j < s.n; ++j) {
+    const int k = j + 1;
+    const double value = value_of(j, k);
+    slot.hs[k] = kSlotState[s.state[j]];
     slot.xn[k] = value;
-    if (j < s.n) {
-      slot.rc[k] = sense * s.d[j] / s.scale[j];
-      if (s.base_cost[j] != 0.0) activity += s.sense * s.base_cost[j] / s.scale[j] * value;
-    } else {
-      slot.pi[s.slot_row[j - s.n]] = sense * s.y[j - s.n] / s.scale[j];
-    }
+    slot.rc[k] = sense * s.d[j] / s.scale[j];
+    if (s.base_cost[j] != 0.0) activity += s.sense * s.base_cost[j] / s.scale[j] * value;
+    superbasics += s.state[j] == kSuperbasicVar;
+  }
+  for (int i = 0; i < s.m; ++i) {
+    const int j = s.n + i;
+    const int k = slot.n + s.slot_row[i];
+    slot.hs[k] = kSlotState[s.state[j]];
+    slot.xn[k] = value_of(j, k);
+    slot.pi[s.slot_row[i]] = sense * s.y[i] / s.scale[j];
+    superbasics += s.state[j] == kSuperbasicVar;
   }
   if (s.objective_row > 0) {
     slot.pi[s.objective_row] = 0.0;
     slot.hs[slot.n + s.objective_row] = kBasic;
     slot.xn[slot.n + s.objective_row] = -activity;
   }
-  slot.ns = 0;
-  for (int j = 0; j < s.n + s.m; ++j) slot.ns += s.state[j] == kSuperbasicVar;
+  slot.ns = superbasics;
   slot.ninf = s.ninf;
   slot.sinf = s.sinf;
   slot.obj = activity + s.nonlinear_objective + slot.objadd;

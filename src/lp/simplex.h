@@ -66,6 +66,11 @@ struct SimplexState {
   int m = 0;  // constraint rows: the slot's rows less the objective row
   int n = 0;
   int objective_row = 0;        // slot row holding the costs (1-based), 0 when none
+  // The slot's objective row entries in column order: column and index into the slot's arrays,
+  // so that loading the costs does not scan the whole matrix.
+  std::vector<int> objective_col;
+  std::vector<int> objective_at;
+  int objective_count = 0;
   double sense = 1.0;           // -1 when maximizing
   double objadd = 0.0;
   std::vector<int> slot_row;    // [m] slot row (1-based) of working row i
@@ -158,6 +163,7 @@ struct SimplexState {
   std::vector<int> candidate;      // [n + m] ratio test candidates
   std::vector<double> candidate_ratio;
   std::vector<int> flipped;        // [n + m] variables flipped by one dual ratio test
+  std::vector<char> row_mark;      // [m] rows listed in a vector being gathered; kept clear
   int flipped_count = 0;
   std::uint64_t random = 0x9E3779B97F4A7C15ull;  // perturbation generator
 

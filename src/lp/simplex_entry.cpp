@@ -11,6 +11,10 @@ namespace tarvo::lp {
 
 namespace {
 
+// Updates per factorization that the factors reserve room for: the default factorization
+// frequency (a larger one grows the update file on its first use).
+constexpr int kReservedUpdates = 100;
+
 enum class StartKind { cold, warm, hot };
 
 struct StartMode {
@@ -59,10 +63,11 @@ bool prepare_basis(SimplexState& s, const ProblemSlot& slot, const SimplexSettin
     else slack_basis(s);
     return false;
   }
-  const bool reuse = matrix_kept && s.factors_valid && head_matches_slot(s, slot) &&
-                     (mode.kind == StartKind::warm || mode.keep_factors);
-  basis_from_slot(s, slot, reuse);
-  return reuse;
+  if (matrix_kept && s.factors_valid && (mode.kind == StartKind::warm || mode.keep_factors) &&
+      keep_basis_from_slot(s, slot))
+    return true;
+  basis_from_slot(s, slot);
+  return false;
 }
 
 // Solves the working problem from the prepared basis: the primal method from a primal feasible
@@ -241,10 +246,14 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.candidate.assign(nt, 0);
   s.rejected.assign(nt, -1);
   s.flipped.assign(nt, 0);
+  s.row_mark.assign(mmax, 0);
+  s.objective_col.assign(nemax, 0);
+  s.objective_at.assign(nemax, 0);
   s.superbasic.assign(nt, 0);
   s.regobj_x.assign(nmax + 1, 0.0);
   s.regobj_g.assign(nmax + 1, 0.0);
   for (auto* v : {&s.column, &s.rho, &s.tau, &s.work}) sparse_resize(*v, mmax);
+  lu_reserve(s.lu, mmax, nemax, kReservedUpdates);
 }
 
 int simplex_workspace_needed(int m, int n, int ne) {

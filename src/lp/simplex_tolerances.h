@@ -25,9 +25,10 @@ inline constexpr double kPerturbAbsolute = 1.0e-7;
 // Iterations with no objective progress after perturbation before the solve gives up (exit 4):
 // this count plus twice the number of rows.
 inline constexpr int kStallLimitBase = 5000;
-// The pivot row is formed row by row while the row of the inverse has at most this share of
-// nonzeros, and column by column beyond it.
-inline constexpr double kRowwiseDensity = 0.1;
+// The pivot row is formed row by row while the matrix entries in the rows of the inverse's row
+// number at most this share of all entries, and column by column beyond it: a row-wise entry
+// costs more (a scatter and a mark) than a column-wise one.
+inline constexpr double kRowwiseShare = 0.4;
 // Optimal and near-optimal are told apart at this ratio of the reduced-gradient norm to the
 // reference norm: the single-precision 0.1 widened to double, compared in double precision.
 inline constexpr double kNearOptimalRatio = 0.10000000149011612;

@@ -63,8 +63,8 @@ void slack_basis(SimplexState& s);
 void crash_basis(SimplexState& s, int option, double tolerance);
 
 // The basis and the quantities derived from it (basis.cpp).
-void basis_from_slot(SimplexState& s, const ProblemSlot& slot, bool keep_head);
-bool head_matches_slot(const SimplexState& s, const ProblemSlot& slot);
+void basis_from_slot(SimplexState& s, const ProblemSlot& slot);
+bool keep_basis_from_slot(SimplexState& s, const ProblemSlot& slot);
 void place_nonbasic(SimplexState& s, int j);
 int factorize_basis(SimplexState& s, const SimplexSettings& settings, Units& units);
 void compute_primal_values(SimplexState& s);
@@ -154,16 +154,20 @@ inline double primal_infeasibility(const SimplexState& s, int j) {
   return 0.0;
 }
 
+// The part of reduced cost dj that has the wrong sign for state st (basic: 0), without branches:
+// the passes over every variable that use it run once or twice per solve.
+inline double wrong_sign_part(signed char st, double dj) {
+  static_assert(kBasicVar == 0 && kNonbasicLower == 1 && kNonbasicUpper == 2 && kNonbasicFree == 3 &&
+                kSuperbasicVar == 4);
+  static constexpr double kWrongSign[] = {0.0, -1.0, 1.0, 0.0, 0.0};
+  static constexpr double kEitherSign[] = {0.0, 0.0, 0.0, 1.0, 1.0};
+  return std::max(kWrongSign[st] * dj, kEitherSign[st] * std::fabs(dj));
+}
+
 // A reduced cost of the wrong sign for its variable's state (a fixed variable never counts).
 inline double dual_infeasibility(const SimplexState& s, int j) {
   if (s.lower[j] == s.upper[j]) return 0.0;
-  switch (s.state[j]) {
-    case kNonbasicLower: return std::max(0.0, -s.d[j]);
-    case kNonbasicUpper: return std::max(0.0, s.d[j]);
-    case kNonbasicFree:
-    case kSuperbasicVar: return std::fabs(s.d[j]);
-    default: return 0.0;
-  }
+  return wrong_sign_part(s.state[j], s.d[j]);
 }
 
 }  // namespace tarvo::lp

@@ -104,16 +104,8 @@ int tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings
     const double x = s.implied_row[i];
     if (beyond_bounds(s, j, x) * s.scale[j] > ftol) offenders += tighten_primal(s, j, x, ftol);
   }
-  // The sign a reduced cost must not have, by state (basic ones are 0), without branches.
-  static_assert(kBasicVar == 0 && kNonbasicLower == 1 && kNonbasicUpper == 2 && kNonbasicFree == 3 &&
-                kSuperbasicVar == 4);
-  static constexpr double kWrongSign[] = {0.0, -1.0, 1.0, 0.0, 0.0};
-  static constexpr double kEitherSign[] = {0.0, 0.0, 0.0, 1.0, 1.0};
   for (int j = 0; j < s.n + s.m; ++j) {
-    const int st = s.state[j];
-    const double dj = s.d[j];
-    const double wrong = std::max(kWrongSign[st] * dj, kEitherSign[st] * std::fabs(dj));
-    if (wrong > otol * s.scale[j]) offenders += tighten_dual(s, j, otol);
+    if (wrong_sign_part(s.state[j], s.d[j]) > otol * s.scale[j]) offenders += tighten_dual(s, j, otol);
   }
   return offenders;
 }

@@ -12,6 +12,9 @@ namespace {
 
 bool enumerates_universe(int istrat) { return istrat == 4 || istrat == 5; }
 
+// A basis per universe point is kept up to this size.
+constexpr double kMaxPointBasisBytes = 64.0 * 1024 * 1024;
+
 int count_entries(const input::OutcomeStore& store) {
   if (store.count == 0 || static_cast<int>(store.entry_start.size()) <= store.count + 1) return 0;
   return store.entry_start[store.count + 1] - 1;
@@ -107,6 +110,11 @@ int allocate_evaluation(Evaluation& ev, const Context& ctx) {
   size_outcome_arrays(ev, store);
   size_subproblem_arrays(ev, ctx.model);
   size_point_arrays(ev);
+  const double basis_bytes = rows * (ev.n2 + ev.m2);
+  if (enumerates_universe(ctx.params.istrat) && basis_bytes <= kMaxPointBasisBytes) {
+    ev.point_basis.assign(static_cast<std::size_t>(basis_bytes), 0);
+    ev.point_basis_kept.assign(ev.capacity + 1, 0);
+  }
   ev.best_master_primal.assign(ctx.master_primal.size(), 0.0);
   ev.best_master_duals.assign(ctx.master_duals.size(), 0.0);
   ev.collect = 0;

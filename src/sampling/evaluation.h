@@ -92,6 +92,14 @@ struct Evaluation {
   bool visit_backwards = false;
   std::vector<int> visit_step;     // [1..nblocks] scratch of the serpentine order
   std::vector<char> solved;        // [1..capacity] point already solved in this pass
+  // Universe passes: the optimal basis (slot states, n2 + m2 per point) each point last had, and
+  // whether a pass restarts each point from its own basis. Outcomes far apart cost many pivots
+  // from one another's bases, while a point's own basis stays near optimal as the proposals
+  // converge. Empty when the universe is too large to keep a basis per point.
+  std::vector<signed char> point_basis;
+  std::vector<char> point_basis_kept;  // [1..capacity]
+  bool restart_from_point_bases = false;
+  double neighbour_pivots = 0.0;  // pivots per solve of the last pass started from neighbours
   int infeasible_point = 0;        // the point whose infeasibility ended the last pass, or 0
 
   CutRecord cut;

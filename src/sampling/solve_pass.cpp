@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "common/free_format.h"
+#include "lp/optimizer.h"
 #include "sampling/cut.h"
 #include "sampling/importance.h"
 #include "sampling/sample_tables.h"
@@ -109,9 +110,23 @@ void copy_point(Evaluation& ev, const PassPlan& plan, int from, int to) {
   ++ev.reused_points;
 }
 
+signed char* point_basis(Evaluation& ev, int k) {
+  return ev.point_basis.data() + static_cast<std::size_t>(k - 1) * (ev.n2 + ev.m2);
+}
+
 int solve_point(const Context& ctx, Evaluation& ev, const PassPlan& plan, int k, int& startflag,
                 int& status) {
+  const bool keep_basis = plan.point_bases && !ev.point_basis.empty();
+  lp::ProblemSlot& sub = ctx.optimizer.slot[lp::kSubproblemSlot];
+  const int states = ev.n2 + ev.m2;
+  if (keep_basis && ev.restart_from_point_bases && ev.point_basis_kept[k]) {
+    std::copy(point_basis(ev, k), point_basis(ev, k) + states, sub.hs.begin() + 1);
+  }
   if (subeval(ctx, ev, k, plan.mode, startflag, status) != kOk) return kErrorExit;
+  if (keep_basis) {
+    std::copy(sub.hs.begin() + 1, sub.hs.begin() + 1 + states, point_basis(ev, k));
+    ev.point_basis_kept[k] = status != kInfeasible;
+  }
   store_point(ev, plan, k);
   if (ev.collect == 1 && plan.collect != CollectRule::none && status != kInfeasible) {
     collect_solution(ctx, ev, plan, k);

@@ -35,6 +35,7 @@ struct PassPlan {
   int mode = 1;         // subeval mode (3: with the scenario probability)
   Visit visit = Visit::table;
   CollectRule collect = CollectRule::none;
+  bool point_bases = false;  // keep each point's optimal basis (ev.point_basis) and restart from it
 };
 
 // Solves the plan's points, storing costs and dual products (point_u). When a point is infeasible

@@ -7,6 +7,13 @@ namespace tarvo::sampling {
 
 namespace {
 
+// Pivots per solve of a universe pass warm started from the neighbouring points above which the
+// next pass tries restarting each point from the basis it last had; it keeps doing so while that
+// costs fewer pivots per solve than the neighbours did, by the factorization each restart needs
+// (counted in pivots).
+constexpr double kPointBasisPivots = 10.0;
+constexpr double kRestartCost = 5.0;
+
 // The scenario probability of row k, multiplied in block order from 1.0 as the solve forms it.
 double row_probability(const Context& ctx, const Evaluation& ev, int k) {
   double p = 1.0;
@@ -14,6 +21,17 @@ double row_probability(const Context& ctx, const Evaluation& ev, int k) {
     p *= ctx.store.probs[ctx.store.prob_start[b] + table_entry(ev, k, b) - 1];
   }
   return p;
+}
+
+// Whether the next pass restarts each point from its own basis, after a pass that took `average`
+// pivots per solve.
+void choose_restart(Evaluation& ev, double average) {
+  if (ev.restart_from_point_bases) {
+    ev.restart_from_point_bases = average + kRestartCost < ev.neighbour_pivots;
+  } else {
+    ev.neighbour_pivots = average;
+    ev.restart_from_point_bases = average > kPointBasisPivots;
+  }
 }
 
 }  // namespace
@@ -33,8 +51,14 @@ int evaluniv(const Context& ctx, Evaluation& ev, int& startflag) {
   clear_cut(ev);
   if (ev.collect == 1) clear_accumulators(ev);
   const PassPlan plan{.rows = ev.nsamples, .cost_offset = 0, .mode = 3, .visit = Visit::serpentine,
-                      .collect = CollectRule::scenario};
+                      .collect = CollectRule::scenario, .point_bases = true};
+  // The pass holding the run's cold start says nothing about warm starts.
+  const bool warm_pass = startflag != 0;
+  const long long solves = ev.lp_solves;
+  const long long pivots = ev.lp_pivots;
   if (solve_points(ctx, ev, plan, startflag) != kOk) return kErrorExit;
+  const long long solved = ev.lp_solves - solves;
+  if (warm_pass && solved > 0) choose_restart(ev, static_cast<double>(ev.lp_pivots - pivots) / solved);
   if (ev.infeasible_point != 0) {
     end_on_infeasible(ctx, ev, plan);
     return kOk;
