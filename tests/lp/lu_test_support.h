@@ -3,6 +3,7 @@
 // the factors against.
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <random>
 #include <vector>
 
@@ -140,6 +141,28 @@ inline bool pattern_is_sound(const SparseVector& v) {
     if (v.value[i] != 0.0 && !listed[i]) return false;
   }
   return true;
+}
+
+// The column of variable k (k >= a.n: the logical of row k - a.n).
+inline SparseVector column_of(const Matrix& a, int k) {
+  std::vector<double> dense(a.m, 0.0);
+  if (k >= a.n) {
+    dense[k - a.n] = 1.0;
+  } else {
+    for (int e = a.col_start[k]; e < a.col_start[k + 1]; ++e) dense[a.row_index[e]] = a.value[e];
+  }
+  return to_sparse(dense);
+}
+
+// How far the factors' solve of B x = rhs (B^T x = rhs) lies from the dense one; infinite when the
+// basis is singular or the result's pattern unsound.
+inline double solve_error(LuFactors& lu, const Matrix& a, const std::vector<int>& head,
+                          const std::vector<double>& rhs, bool transpose) {
+  const std::vector<double> expected = dense_solve(dense_basis(a, head), a.m, rhs, transpose);
+  SparseVector x = to_sparse(rhs);
+  transpose ? lu_btran(lu, x) : lu_ftran(lu, x, false);
+  if (expected.empty() || !pattern_is_sound(x)) return std::numeric_limits<double>::infinity();
+  return max_difference(x.value, expected);
 }
 
 inline LuStatus factorize(LuFactors& lu, const Matrix& a, std::vector<int>& head,

@@ -8,7 +8,7 @@
 
 #include "common/free_format.h"
 #include "lp/optimizer.h"
-#include "work_dir.h"
+#include "run_in_dir.h"
 
 namespace tarvo::lp {
 namespace {
