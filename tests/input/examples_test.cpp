@@ -12,7 +12,7 @@ namespace {
 
 std::vector<std::vector<std::string>> data_lines(const std::string& file, std::vector<std::string>& sections,
                                                  std::vector<std::string>* raw = nullptr) {
-  std::istringstream in(read_text(file));
+  std::istringstream in(read_file(file));
   std::vector<std::vector<std::string>> lines;
   std::string line, section;
   while (std::getline(in, line)) {
@@ -112,7 +112,7 @@ Stoch count_stoch(const std::string& file) {
 class Example : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(Example, SizesAgreeWithTheFiles) {
-  const std::string dir = std::string(TARVO_SOURCE_DIR) + "/examples/" + GetParam();
+  const std::string dir = example_dir(GetParam());
   Model model;
   load_model(model, dir);
   ASSERT_EQ(model.status, InputStatus::ok) << model.failed_step;

@@ -7,7 +7,7 @@ namespace tarvo::input::testing {
 namespace {
 
 void load_example(Model& model, const std::string& problem) {
-  load_model(model, std::string(TARVO_SOURCE_DIR) + "/examples/" + problem);
+  load_model(model, example_dir(problem));
   ASSERT_EQ(model.status, InputStatus::ok) << model.failed_step;
   compute_expected_values(model.store);
 }
@@ -43,7 +43,7 @@ TEST(ExpectedValues, ChemBlockWeighsEachEntry) {
   open_unit(units, 17, dir.file("dump"), OpenStatus::unknown);
   write_outcome_dump(s, units, 17);
   close_unit(units, 17);
-  const std::string dump = read_text(dir.file("dump"));
+  const std::string dump = read_file(dir.file("dump"));
   EXPECT_EQ(dump.rfind(" rvs  1\n rv  1 nsoc  2 nse  3\n", 0), 0u) << dump;
   EXPECT_NE(dump.find("-2 4  100."), std::string::npos) << dump;
   EXPECT_EQ(std::count(dump.begin(), dump.end(), '\n'), 2 + 6);

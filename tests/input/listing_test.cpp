@@ -15,7 +15,7 @@ int count(const std::string& text, const std::string& what) {
 
 // Lines the listing must hold: the first five, comments and cards, data lines within the limit.
 int listed_lines(const std::string& file, int list_limit) {
-  std::istringstream in(read_text(file));
+  std::istringstream in(read_file(file));
   int number = 0, listed = 0;
   for (std::string line; std::getline(in, line);) {
     ++number;
@@ -35,7 +35,7 @@ std::string read_listing(const std::string& file, int list_limit, int message_li
   lp::ProblemSlot slot = make_slot();
   read_mps_file(slot, options, units, file, kCorUnit, 23, 0);
   close_unit(units, 23);
-  return read_text(dir.file("print"));
+  return read_file(dir.file("print"));
 }
 
 TEST(Listing, FirstLinesCardsAndDataWithinTheListLimit) {
@@ -56,7 +56,7 @@ TEST(Listing, FirstLinesCardsAndDataWithinTheListLimit) {
 
 TEST(Listing, MessagesStopAtTheLimitButAllErrorsCount) {
   TempDir dir("limit");
-  std::string core = read_text(example_file("lands3", "MODEL.COR"));
+  std::string core = read_file(example_file("lands3", "MODEL.COR"));
   std::string bad;
   for (int k = 0; k < 15; ++k) bad += "    X1        NOROW" + std::to_string(k) + "    1.0\n";
   core.insert(core.find("    X2"), bad);
@@ -84,7 +84,7 @@ TEST(Listing, CapacityOverflowsAreStorageFailures) {
                                              kCorUnit, 23, 0);
     close_unit(units, 23);
     EXPECT_EQ(read.status, InputStatus::storage);
-    const std::string listing = read_text(dir.file("print"));
+    const std::string listing = read_file(dir.file("print"));
     EXPECT_NE(listing.find(std::string(c.message) + "\n EXIT -- not enough storage to read the MPS file"),
               std::string::npos) << listing;
   }
@@ -98,7 +98,7 @@ TEST(Listing, PrescanListsRecordsAndParameters) {
   OutcomeStore store;
   EXPECT_EQ(prescan_stoch_file(units, 8, 7, {}, store), InputStatus::ok);
   close_unit(units, 7);
-  const std::string spr = read_text(dir.file("MODEL.SPR"));
+  const std::string spr = read_file(dir.file("MODEL.SPR"));
   EXPECT_EQ(count(spr, "prescan: parameter"), store.jele);
   EXPECT_EQ(count(spr, "\n"), listed_lines(example_file("lands-1e6", "MODEL.STO"), 1 << 30) + store.jele);
 }

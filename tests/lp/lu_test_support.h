@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <random>
 #include <vector>
 
@@ -154,15 +155,22 @@ inline SparseVector column_of(const Matrix& a, int k) {
   return to_sparse(dense);
 }
 
-// How far the factors' solve of B x = rhs (B^T x = rhs) lies from the dense one; infinite when the
-// basis is singular or the result's pattern unsound.
+// How far the factors' solve of B x = rhs (B^T x = rhs) lies from the dense one. The right-hand
+// side goes in twice: with its nonzeros listed (a sparse solve searches the reach) and with every
+// index listed (too full a pattern for that: the solve sweeps). Infinite when the basis is singular,
+// a result's pattern is unsound or the two ways differ in any bit.
 inline double solve_error(LuFactors& lu, const Matrix& a, const std::vector<int>& head,
                           const std::vector<double>& rhs, bool transpose) {
   const std::vector<double> expected = dense_solve(dense_basis(a, head), a.m, rhs, transpose);
-  SparseVector x = to_sparse(rhs);
-  transpose ? lu_btran(lu, x) : lu_ftran(lu, x, false);
-  if (expected.empty() || !pattern_is_sound(x)) return std::numeric_limits<double>::infinity();
-  return max_difference(x.value, expected);
+  SparseVector sparse = to_sparse(rhs), swept = to_sparse(rhs);
+  swept.count = swept.size;
+  std::iota(swept.index.begin(), swept.index.end(), 0);
+  for (SparseVector* v : {&sparse, &swept}) transpose ? lu_btran(lu, *v) : lu_ftran(lu, *v, false);
+  const bool same = sparse.value == swept.value && sparse.count == swept.count;
+  if (expected.empty() || !same || !pattern_is_sound(sparse) || !pattern_is_sound(swept)) {
+    return std::numeric_limits<double>::infinity();
+  }
+  return max_difference(sparse.value, expected);
 }
 
 inline LuStatus factorize(LuFactors& lu, const Matrix& a, std::vector<int>& head,

@@ -197,18 +197,19 @@ struct Harness {
 };
 
 // Largest violation of primal feasibility and of the optimality conditions by the slot's
-// solution (xn, pi, rc), in the slot's own units.
+// solution (xn, pi, rc), in the slot's own units; `gradient` (1-based) is what a nonlinear
+// objective adds to the costs at xn.
 struct KktError {
   double primal = 0.0;
   double dual = 0.0;
   double reduced_cost = 0.0;  // |rc - (c - A^T pi)|
 };
 
-inline KktError kkt_error(const ProblemSlot& slot) {
+inline KktError kkt_error(const ProblemSlot& slot, const std::vector<double>& gradient = {}) {
   KktError e;
   std::vector<double> activity(slot.m + 1, 0.0);
   for (int j = 1; j <= slot.n; ++j) {
-    double rc = 0.0;
+    double rc = gradient.empty() ? 0.0 : gradient[j];
     for (int k = slot.ka[j]; k < slot.ka[j + 1]; ++k) {
       activity[slot.ha[k]] += slot.a[k] * slot.xn[j];
       rc += (slot.ha[k] == slot.iobj ? slot.a[k] : 0.0) - slot.a[k] * slot.pi[slot.ha[k]];

@@ -48,7 +48,7 @@ TEST(Universe, EqualsScenarioSolvesAndItsCutsSupport) {
     testing::ExampleModel m;
     m.params.istrat = 4;
     ASSERT_TRUE(m.load(name));
-    const int n1 = m.dec.n1;
+    const int n1 = m.model.n1;
     std::mt19937 rng(11);
     std::uniform_real_distribution<double> u(0.5, 1.5);
     std::vector<Point> points;
