@@ -84,10 +84,7 @@ inline void copy_example(const std::string& name, const fs::path& dir) {
   }
 }
 
-struct ProgramRun {
-  int status = -1;
-  std::string console;
-};
+struct ProgramRun { int status = -1; std::string console; };
 
 // Runs `program` in `dir` with `input` on standard input; returns the exit status and console.
 inline ProgramRun run_program(const std::string& program, const fs::path& dir,

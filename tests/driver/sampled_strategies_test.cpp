@@ -10,10 +10,7 @@ namespace {
 // The optimum of lands-1e6 as far as it is known (large samples of the deterministic equivalent).
 constexpr double kLandsOptimum = 225.6;
 
-struct Interval {
-  double lower = 0.0;
-  double upper = 0.0;
-};
+struct Interval { double lower = 0.0; double upper = 0.0; };
 
 Interval confidence_interval(const fs::path& dir) {
   const std::string sol = read_file(dir / "MODEL.SOL");

@@ -25,15 +25,16 @@ int listed_lines(const std::string& file, int list_limit) {
   return listed;
 }
 
-std::string read_listing(const std::string& file, int list_limit, int message_limit) {
+std::string read_listing(const std::string& file, int list_limit, int message_limit,
+                         lp::ProblemSlot slot = make_slot(), InputStatus* status = nullptr) {
   TempDir dir("listing");
   Units units;
   open_unit(units, 23, dir.file("print"), OpenStatus::unknown);
   lp::Options options = default_options();
   options.ival[lp::kListLimit] = list_limit;
   options.ival[lp::kErrorMessageLimit] = message_limit;
-  lp::ProblemSlot slot = make_slot();
-  read_mps_file(slot, options, units, file, kCorUnit, 23, 0);
+  const MpsReadResult read = read_mps_file(slot, options, units, file, kCorUnit, 23, 0);
+  if (status != nullptr) *status = read.status;
   close_unit(units, 23);
   return read_file(dir.file("print"));
 }
@@ -76,15 +77,10 @@ TEST(Listing, CapacityOverflowsAreStorageFailures) {
                         {20, 5, 100, " XXXX  Too many columns.   The limit was       5  Actual number is      16"},
                         {20, 20, 10, " XXXX  Too many elements.  The limit was      10  Actual number is      52"}};
   for (const Case& c : cases) {
-    TempDir dir("capacity");
-    Units units;
-    open_unit(units, 23, dir.file("print"), OpenStatus::unknown);
-    lp::ProblemSlot slot = make_slot(c.rows, c.columns, c.elements);
-    const MpsReadResult read = read_mps_file(slot, default_options(), units, example_file("lands3", "MODEL.COR"),
-                                             kCorUnit, 23, 0);
-    close_unit(units, 23);
-    EXPECT_EQ(read.status, InputStatus::storage);
-    const std::string listing = read_file(dir.file("print"));
+    InputStatus status = InputStatus::ok;
+    const std::string listing = read_listing(example_file("lands3", "MODEL.COR"), 0, 10,
+                                             make_slot(c.rows, c.columns, c.elements), &status);
+    EXPECT_EQ(status, InputStatus::storage);
     EXPECT_NE(listing.find(std::string(c.message) + "\n EXIT -- not enough storage to read the MPS file"),
               std::string::npos) << listing;
   }

@@ -167,14 +167,7 @@ int leaving_position(const SparseVector& x, std::mt19937& rng) {
   return eligible[std::uniform_int_distribution<int>(0, static_cast<int>(eligible.size()) - 1)(rng)];
 }
 
-struct SequenceCase {
-  int m;
-  double density;
-  double logicals;
-  int steps;
-  int max_updates;
-  unsigned seed;
-};
+struct SequenceCase { int m; double density; double logicals; int steps; int max_updates; unsigned seed; };
 
 // Random basis changes through lu_update, checked against the dense solve of the current basis;
 // a refused update is answered by a fresh factorization, as the simplex would.

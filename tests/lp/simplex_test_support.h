@@ -78,10 +78,7 @@ inline void load_slot(const DenseLp& lp, ProblemSlot& slot) {
 
 // Vertex enumeration within an artificial box |x_j| <= big.
 inline Reference enumerate_vertices(const DenseLp& lp, double kBig) {
-  struct Plane {
-    std::vector<double> a;
-    double b;
-  };
+  struct Plane { std::vector<double> a; double b; };
   std::vector<Plane> planes;
   auto add = [&](std::vector<double> a, double b) { planes.push_back({std::move(a), b}); };
   for (int i = 0; i < lp.m; ++i) {

@@ -23,14 +23,8 @@
 namespace tarvo::sampling::testing {
 
 // One outcome change read from MODEL.STO: a right-hand side (column empty) or a matrix entry.
-struct Change {
-  std::string column, row;
-  double value = 0.0;
-};
-struct Outcome {
-  double prob = 0.0;
-  std::vector<Change> changes;
-};
+struct Change { std::string column, row; double value = 0.0; };
+struct Outcome { double prob = 0.0; std::vector<Change> changes; };
 using Block = std::vector<Outcome>;
 
 inline std::string field(const std::string& line, std::size_t from, std::size_t to) {

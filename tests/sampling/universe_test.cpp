@@ -27,11 +27,7 @@ bool expected_recourse(testing::ExampleModel& m, const std::vector<double>& x, d
   }
 }
 
-struct Point {
-  std::vector<double> x;
-  double exact = 0.0;
-  CutRecord cut;
-};
+struct Point { std::vector<double> x; double exact = 0.0; CutRecord cut; };
 
 double cut_at(const CutRecord& cut, const std::vector<double>& x, int n1) {
   double value = cut.gls;
