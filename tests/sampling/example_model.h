@@ -111,7 +111,7 @@ struct ExampleModel : Harness {
     x_core = core_first_stage(std::vector<double>(model.n1 + 1, 1.0));
     master_primal.assign(model.n1 + 2 + optimizer.slot[1].m, 0.0);
     master_duals.assign(model.n1 + 2 + optimizer.slot[1].m, 0.0);
-    for (int j = 1; j <= model.n1; ++j) master_primal[j] = x_core[j];
+    set_proposal(x_core);
     if (allocate_evaluation(ev, context()) != kOk) return false;
     expvals(ev, store);
     return true;
