@@ -1,11 +1,13 @@
 #pragma once
 // Helpers for tests that run a built TARVO program in a fresh working directory.
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <random>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace tarvo::testing {
 
@@ -30,6 +32,38 @@ inline std::string read_file(const fs::path& path) {
   return buffer.str();
 }
 
+inline std::vector<std::string> read_lines(const fs::path& path) {
+  std::vector<std::string> lines;
+  std::istringstream text(read_file(path));
+  for (std::string line; std::getline(text, line);) lines.push_back(line);
+  return lines;
+}
+
+inline bool has_line(const std::vector<std::string>& lines, const std::string& wanted) {
+  return std::find(lines.begin(), lines.end(), wanted) != lines.end();
+}
+
+// A fresh directory for one test, removed with the object.
+struct ScratchDir {
+  fs::path path;
+  explicit ScratchDir(const std::string& tag = "scratch") : path(fresh_directory(tag)) {}
+  ScratchDir(const ScratchDir&) = delete;
+  ScratchDir& operator=(const ScratchDir&) = delete;
+  ~ScratchDir() {
+    std::error_code ignored;
+    fs::remove_all(path, ignored);
+  }
+  std::string file(const std::string& name) const { return (path / name).string(); }
+  void write(const std::string& name, const std::string& text) const { write_file(path / name, text); }
+};
+
+// A scratch directory that is the working directory while the object lives.
+struct WorkDir : ScratchDir {
+  fs::path previous = fs::current_path();
+  explicit WorkDir(const std::string& tag = "work") : ScratchDir(tag) { fs::current_path(path); }
+  ~WorkDir() { fs::current_path(previous); }
+};
+
 // Options with room for every bundled problem.
 inline const char* const kSampleOptions =
     "BEGIN  options for the bundled test problems\n"
@@ -50,10 +84,7 @@ inline void copy_example(const std::string& name, const fs::path& dir) {
   }
 }
 
-struct ProgramRun {
-  int status = -1;
-  std::string console;
-};
+struct ProgramRun { int status = -1; std::string console; };
 
 // Runs `program` in `dir` with `input` on standard input; returns the exit status and console.
 inline ProgramRun run_program(const std::string& program, const fs::path& dir,

@@ -2,48 +2,24 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <random>
-#include <sstream>
 
 #include "common/clock.h"
 #include "common/free_format.h"
 #include "common/line_reader.h"
 #include "common/record_format.h"
 #include "common/units.h"
+#include "run_in_dir.h"
 
 namespace tarvo {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::read_file;
+using testing::write_file;
 
-// Runs each test in a fresh temporary working directory, removed afterwards.
+// Each test runs in a fresh working directory of its own.
 class InTempDirectory : public ::testing::Test {
- protected:
-  void SetUp() override {
-    std::mt19937_64 rng(std::random_device{}());
-    dir_ = fs::temp_directory_path() / ("tarvo-common-" + std::to_string(rng()));
-    fs::create_directories(dir_);
-    previous_ = fs::current_path();
-    fs::current_path(dir_);
-  }
-  void TearDown() override {
-    fs::current_path(previous_);
-    fs::remove_all(dir_);
-  }
-  static void write_file(const std::string& name, const std::string& bytes) {
-    std::ofstream(name, std::ios::binary) << bytes;
-  }
-  static std::string read_file(const std::string& name) {
-    std::ifstream in(name, std::ios::binary);
-    std::stringstream buffer;
-    buffer << in.rdbuf();
-    return buffer.str();
-  }
-
- private:
-  fs::path dir_;
-  fs::path previous_;
+  testing::WorkDir dir_{"common"};
 };
 
 using UnitsTest = InTempDirectory;

@@ -32,8 +32,6 @@ TEST(RecordOutput, TextFields) {
       {"(1x, a1, 2x, 2a4)", {sv("E"), sv("COST"), sv("ROW ")}, {" E  COSTROW "}},
       {"(1x,a32,1x,f15.2)", {sv("execution time (sec):"), 12.345},
        {" execution time (sec):           " " " "          12.35"}},  // 12.34500000000000064 rounds up
-      {"(a20, 1x, f12.2)", {sv("variance reduction:"), 3.14159},
-       {"variance reduction: " " " "        3.14"}},
       {"(a4,  a8, 2x, 2a4, f8.0     )", {sv(" UP "), sv("BND     "), sv("X1  "), sv("    "), 1.0},
        {" UP " "BND     " "  " "X1  " "    " "      1."}},
   });
@@ -48,8 +46,6 @@ TEST(RecordOutput, IntegerFields) {
       {"(i20)", {LLONG_MIN}, {"-9223372036854775808"}}, {"(i19)", {LLONG_MIN}, {"*******************"}},
       {"(2(1x,i1))", {3LL, 0LL}, {" 3 0"}}, {"(i7,4x,a)", {12LL, sv("line text")}, {"     12    line text"}},
       {"(a1,i7)", {sv("x"), 7LL}, {"x      7"}},
-      {"(1x, a16, 1x, i15)", {sv("iteration:      "), 17LL},
-       {" iteration:      " " " "             17"}},
   });
 }
 
@@ -128,8 +124,6 @@ TEST(RecordOutput, LinesGroupsAndRunningOutOfItems) {
        {"", " " "      #" " " "  COLUMN" " " "          VALUE" " " "   REDUCED COST", ""}},
       {"(1x, a16, 1x, 1pe15.5, /)", {sv("zsub:           "), 2.5},
        {" zsub:           " " " "    2.50000E+00", ""}},
-      {"(1x,i7,1x,a8,2(1x,1pe15.5))", {3LL, sv("THETA   "), 1.5, -0.25},
-       {" " "      3" " " "THETA   " " " "    1.50000E+00" " " "   -2.50000E-01"}},
       {"(1x,i7,1x,a8,2(1x,1pe20.12),2(1x,i1))", {12LL, sv("X1      "), 1.0, 0.0, 3LL, 0LL},
        {" " "     12" " " "X1      " " " "  1.000000000000E+00" " " "  0.000000000000E+00" " 3 0"}},
       {"(/\" Problem name\",17x,2a4/\" No. of iterations\",i20,2x,\" Objective value\",1p,e22.10)",

@@ -49,24 +49,25 @@ inline StatusFile read_status_file(const fs::path& dir) {
   return sog;
 }
 
+// A bundled example in a fresh directory, its MODEL.INP replaced, and what running TARVO on it
+// left; the directory goes with the object.
 struct ExampleRun {
-  fs::path dir;
+  ScratchDir dir;
   ProgramRun program;
   StatusFile sog;
-};
 
-// Copies the example, replaces its MODEL.INP and runs TARVO with `mode` on standard input. The
-// caller removes run.dir.
-inline ExampleRun run_example(const std::string& name, const std::string& inp,
-                              const std::string& mode = "") {
-  ExampleRun run;
-  run.dir = fresh_directory(name);
-  copy_example(name, run.dir);
-  write_file(run.dir / "MODEL.INP", inp + "1 igms\n");
-  run.program = run_program(TARVO_BINARY, run.dir, mode);
-  run.sog = read_status_file(run.dir);
-  return run;
-}
+  // Runs at once unless `later`, which leaves room to change the files first.
+  ExampleRun(const std::string& name, const std::string& inp, bool later = false) : dir(name) {
+    copy_example(name, dir.path);
+    write_file(dir.path / "MODEL.INP", inp + "1 igms\n");
+    if (!later) run();
+  }
+  void run(const std::string& mode = "") {
+    program = run_program(TARVO_BINARY, dir.path, mode);
+    sog = read_status_file(dir.path);
+  }
+  std::string file(const std::string& name) const { return read_file(dir.path / name); }
+};
 
 inline double relative_error(double value, double reference) {
   return std::abs(value - reference) / std::max(1.0, std::abs(reference));

@@ -65,13 +65,11 @@ TEST(ExactStrategies, ReachTheKnownOptimum) {
     // The universe alone, after the expected-value run, and with the regularized master.
     for (const char* strategy : {"4 istrat\n", "5 istrat\n", "4 istrat\n1 ireg\n"}) {
       SCOPED_TRACE(std::string(k.example) + " " + strategy);
-      const ExampleRun run =
-          run_example(k.example, std::string(strategy) + "100 nzrows\n1000 maxit\n1.0d-7 tolben\n");
+      const ExampleRun run(k.example, std::string(strategy) + "100 nzrows\n1000 maxit\n1.0d-7 tolben\n");
       EXPECT_TRUE(contains(run.program.console, " Normal Exit\n"));
       EXPECT_EQ(run.sog.status, 1);
       EXPECT_LT(relative_error(run.sog.objective, k.optimum), 1e-6) << run.sog.objective;
-      EXPECT_LT(first_stage_violation(run.dir, run.sog), 1e-6);
-      fs::remove_all(run.dir);
+      EXPECT_LT(first_stage_violation(run.dir.path, run.sog), 1e-6);
     }
   }
 }
@@ -79,7 +77,7 @@ TEST(ExactStrategies, ReachTheKnownOptimum) {
 TEST(ExactStrategies, EvaluationRunReproducesTheOptimum) {
   for (const char* example : {"lands3", "pltexpa2-6"}) {
     SCOPED_TRACE(example);
-    const ExampleRun solved = run_example(example, "4 istrat\n");
+    const ExampleRun solved(example, "4 istrat\n");
     std::string sta = "* first-stage solution of the universe run\n";
     for (const auto& [name, value] : solved.sog.column_value) {
       std::ostringstream line;
@@ -87,17 +85,13 @@ TEST(ExactStrategies, EvaluationRunReproducesTheOptimum) {
       line << name << " " << value << "\n";
       sta += line.str();
     }
-    const fs::path dir = fresh_directory("eval");
-    copy_example(example, dir);
-    write_file(dir / "MODEL.INP", "4 istrat\n1 igms\n");
-    write_file(dir / "MODEL.STA", sta);
-    const ProgramRun eval = run_program(TARVO_BINARY, dir, "eval\n");
-    EXPECT_TRUE(contains(eval.console, " Normal Exit\n"));
-    EXPECT_LT(relative_error(read_status_file(dir).objective, solved.sog.objective), 1e-7);
-    EXPECT_TRUE(contains(read_file(dir / "MODEL.SCR"), " reading solution\n"));
-    EXPECT_FALSE(fs::exists(dir / "fort.15"));  // an evaluation writes no run summary
-    fs::remove_all(dir);
-    fs::remove_all(solved.dir);
+    ExampleRun eval(example, "4 istrat\n", true);
+    eval.dir.write("MODEL.STA", sta);
+    eval.run("eval\n");
+    EXPECT_TRUE(contains(eval.program.console, " Normal Exit\n"));
+    EXPECT_LT(relative_error(eval.sog.objective, solved.sog.objective), 1e-7);
+    EXPECT_TRUE(contains(eval.file("MODEL.SCR"), " reading solution\n"));
+    EXPECT_FALSE(fs::exists(eval.dir.path / "fort.15"));  // an evaluation writes no run summary
   }
 }
 

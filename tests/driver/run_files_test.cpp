@@ -15,7 +15,8 @@ int count_of(const std::string& text, const std::string& part) {
 }
 
 TEST(RunFiles, BannerReportsSizesAndExitLine) {
-  const fs::path dir = fresh_directory("files");
+  const ScratchDir scratch("files");
+  const fs::path& dir = scratch.path;
   write_file(dir / "SIMPLEX.SPC", kSampleOptions);
   const ProgramRun run = run_program(TARVO_BINARY, dir, "");
   EXPECT_EQ(run.status, 0);
@@ -30,22 +31,22 @@ TEST(RunFiles, BannerReportsSizesAndExitLine) {
   EXPECT_TRUE(contains(read_file(dir / "MODEL.SCR"),
                        " Simplex specs file:\n rows:     3000\n columss:  10000\n"
                        " elements: 120000\n \n"));
-  fs::remove_all(dir);
 }
 
 TEST(RunFiles, ScreenLogOnTheConsoleWhenIscratchIsSix) {
-  const fs::path dir = fresh_directory("console");
+  const ScratchDir scratch("console");
+  const fs::path& dir = scratch.path;
   write_file(dir / "MODEL.INP", "6 iscratch\n");
   write_file(dir / "SIMPLEX.SPC", kSampleOptions);
   const ProgramRun run = run_program(TARVO_BINARY, dir, "");
   EXPECT_EQ(count_of(run.console, "T H E   T  A  R  V  O   S Y S T E M"), 2) << run.console;
   EXPECT_TRUE(contains(run.console, " iscratch  =  6\n"));
   EXPECT_FALSE(fs::exists(dir / "MODEL.SCR"));
-  fs::remove_all(dir);
 }
 
 TEST(RunFiles, MissingOptionsFileStopsBeforeTheModel) {
-  const fs::path dir = fresh_directory("nospecs");
+  const ScratchDir scratch("nospecs");
+  const fs::path& dir = scratch.path;
   const ProgramRun run = run_program(TARVO_BINARY, dir, "");
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(read_file(dir / "MODEL.ERR"),
@@ -53,7 +54,6 @@ TEST(RunFiles, MissingOptionsFileStopsBeforeTheModel) {
   EXPECT_TRUE(contains(run.console, " ERROR exit\n")) << run.console;
   EXPECT_FALSE(contains(run.console, "ERROR Exit"));
   EXPECT_TRUE(contains(read_file(dir / "MODEL.SCR"), " parameters: "));
-  fs::remove_all(dir);
 }
 
 }  // namespace

@@ -23,42 +23,37 @@ TEST(RunLimits, LimitsEndTheRunNormallyWithTheirWarning) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    const ExampleRun run = run_example("stormg2-8", c.inp);
+    const ExampleRun run("stormg2-8", c.inp);
     EXPECT_TRUE(contains(run.program.console, " Normal Exit\n"));
-    EXPECT_TRUE(contains(read_file(run.dir / "MODEL.ERR"), c.warning));
-    const std::string log = read_file(run.dir / "MODEL.SCR");
+    EXPECT_TRUE(contains(run.file("MODEL.ERR"), c.warning));
+    const std::string log = run.file("MODEL.SCR");
     EXPECT_TRUE(contains(log, c.warning));
     EXPECT_TRUE(contains(log, c.log_line));
     EXPECT_EQ(run.sog.status, 1);
     EXPECT_EQ(run.sog.solsta, 1);  // the normal exit reports solver status 1 whatever stopped it
-    EXPECT_TRUE(contains(read_file(run.dir / "MODEL.SOL"), "-UNIVERSE- SOLUTION:"));
-    EXPECT_EQ(read_file(run.dir / "fort.15").substr(0, 4), c.summary);
+    EXPECT_TRUE(contains(run.file("MODEL.SOL"), "-UNIVERSE- SOLUTION:"));
+    EXPECT_EQ(run.file("fort.15").substr(0, 4), c.summary);
     if (c.summary[0] == '*') {
       EXPECT_TRUE(contains(run.program.console, " 999999"));
     }
-    fs::remove_all(run.dir);
   }
 }
 
 TEST(RunLimits, UndefinedStrategySolvesNothing) {
-  const ExampleRun run = run_example("lands3", "12 istrat\n");
+  const ExampleRun run("lands3", "12 istrat\n");
   EXPECT_TRUE(contains(run.program.console, " Normal Exit\n"));
-  EXPECT_FALSE(contains(read_file(run.dir / "MODEL.SOL"), "SOLUTION:"));
-  EXPECT_EQ(read_file(run.dir / "fort.15").substr(0, 4), "   0");
-  fs::remove_all(run.dir);
+  EXPECT_FALSE(contains(run.file("MODEL.SOL"), "SOLUTION:"));
+  EXPECT_EQ(run.file("fort.15").substr(0, 4), "   0");
 }
 
 TEST(RunLimits, ModelWithoutRandomDataIsSolvedAsItStands) {
-  const fs::path dir = fresh_directory("norandom");
-  copy_example("lands3", dir);
-  write_file(dir / "MODEL.STO", "STOCH         LandS\nENDATA\n");
-  write_file(dir / "MODEL.INP", "5 istrat\n1 igms\n");
-  const ProgramRun run = run_program(TARVO_BINARY, dir, "");
-  EXPECT_TRUE(contains(run.console, " Normal Exit\n"));
+  ExampleRun run("lands3", "5 istrat\n", true);
+  run.dir.write("MODEL.STO", "STOCH         LandS\nENDATA\n");
+  run.run();
+  EXPECT_TRUE(contains(run.program.console, " Normal Exit\n"));
   // With the core's demands (the second-stage right-hand sides of the file) the two-stage
   // problem is the core LP itself, whose optimum is 209.
-  EXPECT_LT(relative_error(read_status_file(dir).objective, 209.0), 1e-9);
-  fs::remove_all(dir);
+  EXPECT_LT(relative_error(run.sog.objective, 209.0), 1e-9);
 }
 
 TEST(RunLimits, MissingModelFilesEndWithTheirMessage) {
@@ -71,15 +66,12 @@ TEST(RunLimits, MissingModelFilesEndWithTheirMessage) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.missing);
-    const fs::path dir = fresh_directory("missing");
-    copy_example("lands3", dir);
-    fs::remove(dir / c.missing);
-    write_file(dir / "MODEL.INP", "5 istrat\n1 igms\n");
-    const ProgramRun run = run_program(TARVO_BINARY, dir, "");
-    EXPECT_TRUE(contains(run.console, " ERROR Exit\n"));
-    EXPECT_TRUE(contains(read_file(dir / "MODEL.ERR"), c.message)) << read_file(dir / "MODEL.ERR");
-    EXPECT_EQ(read_status_file(dir).status, 12);
-    fs::remove_all(dir);
+    ExampleRun run("lands3", "5 istrat\n", true);
+    fs::remove(run.dir.path / c.missing);
+    run.run();
+    EXPECT_TRUE(contains(run.program.console, " ERROR Exit\n"));
+    EXPECT_TRUE(contains(run.file("MODEL.ERR"), c.message)) << run.file("MODEL.ERR");
+    EXPECT_EQ(run.sog.status, 12);
   }
 }
 

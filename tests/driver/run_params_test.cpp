@@ -17,16 +17,15 @@ struct InpCase {
 };
 
 std::string model_inp_echo(const char* inp, std::string& err, std::string& console) {
-  const fs::path dir = fresh_directory("inp");
+  const ScratchDir scratch("inp");
+  const fs::path& dir = scratch.path;
   if (inp) write_file(dir / "MODEL.INP", inp);
   write_file(dir / "SIMPLEX.SPC", kSampleOptions);
   const ProgramRun run = run_program(TARVO_BINARY, dir, "");
   EXPECT_EQ(run.status, 0);
   console = run.console;
   err = read_file(dir / "MODEL.ERR");
-  const std::string log = read_file(dir / "MODEL.SCR");
-  fs::remove_all(dir);
-  return log;
+  return read_file(dir / "MODEL.SCR");
 }
 
 TEST(RunParams, ModelInpIsReadAndEchoed) {

@@ -10,10 +10,7 @@ namespace {
 // The optimum of lands-1e6 as far as it is known (large samples of the deterministic equivalent).
 constexpr double kLandsOptimum = 225.6;
 
-struct Interval {
-  double lower = 0.0;
-  double upper = 0.0;
-};
+struct Interval { double lower = 0.0; double upper = 0.0; };
 
 Interval confidence_interval(const fs::path& dir) {
   const std::string sol = read_file(dir / "MODEL.SOL");
@@ -31,15 +28,13 @@ TEST(SampledStrategies, ConfidenceIntervalsCoverTheOptimum) {
   // the expected-value run.
   for (int istrat : {2, 3, 6, 7, 8, 9, 10, 11}) {
     SCOPED_TRACE("istrat " + std::to_string(istrat));
-    const ExampleRun run = run_example(
-        "lands-1e6", std::to_string(istrat) + " istrat\n500 nsamples\n200 maxit\n");
+    const ExampleRun run("lands-1e6", std::to_string(istrat) + " istrat\n500 nsamples\n200 maxit\n");
     EXPECT_TRUE(contains(run.program.console, " Normal Exit\n"));
-    const Interval ci = confidence_interval(run.dir);
+    const Interval ci = confidence_interval(run.dir.path);
     EXPECT_LE(ci.lower, kLandsOptimum);
     EXPECT_GE(ci.upper, kLandsOptimum);
     EXPECT_LT(ci.lower, ci.upper);
-    EXPECT_TRUE(contains(read_file(run.dir / "MODEL.SOL"), "initial seed:"));
-    fs::remove_all(run.dir);
+    EXPECT_TRUE(contains(run.file("MODEL.SOL"), "initial seed:"));
   }
 }
 

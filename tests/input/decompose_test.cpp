@@ -35,7 +35,7 @@ struct Split {
     open_unit(model.units, 17, dir.file("log"), OpenStatus::unknown);
     load_model(model, dir.path.string(), {17, 17}, 0, nzrows);
     close_unit(model.units, 17);
-    log = read_text(dir.file("log"));
+    log = read_file(dir.file("log"));
   }
 };
 
@@ -119,7 +119,7 @@ TEST(Decompose, CapacityMessagesInTheirOrder) {
     open_unit(m.units, 17, split.dir.file("log2"), OpenStatus::unknown);
     EXPECT_EQ(decompose(m.core, m.stages, 4, m.master, m.sub, m.dec, m.units, {17, 17}), InputStatus::storage);
     close_unit(m.units, 17);
-    const std::string log = read_text(split.dir.file("log2"));
+    const std::string log = read_file(split.dir.file("log2"));
     EXPECT_EQ(log, std::string(" ") + c.message + "\n");
   }
 }

@@ -58,12 +58,8 @@ void expect_consistent(Model& m, const std::string& dir) {
 
 std::vector<std::string> lines_of(const std::string& text) {
   std::vector<std::string> lines;
-  std::size_t start = 0;
-  while (start < text.size()) {
-    const std::size_t end = text.find('\n', start);
-    lines.push_back(text.substr(start, end == std::string::npos ? std::string::npos : end - start));
-    start = end == std::string::npos ? text.size() : end + 1;
-  }
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
   return lines;
 }
 
@@ -132,7 +128,7 @@ TEST(Fuzz, MutatedExamplesNeverCrash) {
   for (int round = 0; round < 750; ++round) {
     for (const char* problem : {"lands3", "lands3-blocks", "chem", "env-aggr"}) {
       std::string text[3];
-      for (int f = 0; f < 3; ++f) text[f] = read_text(example_file(problem, files[f]));
+      for (int f = 0; f < 3; ++f) text[f] = read_file(example_file(problem, files[f]));
       // Mostly the core, which has the most to get wrong; the five-line time file seldom.
       std::discrete_distribution<int> which({6, 1, 3});
       const int mutations = 1 + static_cast<int>(rng() % 3);
@@ -140,7 +136,7 @@ TEST(Fuzz, MutatedExamplesNeverCrash) {
         std::string& target = text[which(rng)];
         target = mutate(target, rng);
       }
-      for (int f = 0; f < 3; ++f) TempDir::write_to(dir + "/" + files[f], text[f]);
+      for (int f = 0; f < 3; ++f) write_file(dir + "/" + files[f], text[f]);
       // Every fourth case runs with slots near the examples' sizes, so that capacities overflow.
       Capacity capacity;
       if (round % 4 == 3) capacity = {5 + int(rng() % 100), 5 + int(rng() % 120), 20 + int(rng() % 450)};

@@ -1,8 +1,6 @@
 #pragma once
 // Shared helpers of the model-input tests: slots and options as the driver sets them up, the
 // whole read of an example directory, and temporary files.
-#include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -15,11 +13,16 @@
 #include "input/time_file.h"
 #include "lp/options.h"
 #include "lp/problem_slot.h"
+#include "run_in_dir.h"
 
 namespace tarvo::input::testing {
 
+inline std::string example_dir(const std::string& problem) {
+  return std::string(TARVO_SOURCE_DIR) + "/examples/" + problem;
+}
+
 inline std::string example_file(const std::string& problem, const std::string& file) {
-  return std::string(TARVO_SOURCE_DIR) + "/examples/" + problem + "/" + file;
+  return example_dir(problem) + "/" + file;
 }
 
 inline const std::vector<std::string>& example_problems() {
@@ -104,30 +107,8 @@ inline void load_model(Model& model, const std::string& dir, const MessageUnits&
   step(read_stoch_file(model.units, dir + "/MODEL.STO", kStoUnit, 0, to, context, model.store), "stoch");
 }
 
-// A scratch directory for one test, removed with the object.
-struct TempDir {
-  std::filesystem::path path;
-  explicit TempDir(const std::string& tag) {
-    path = std::filesystem::temp_directory_path() /
-           ("tarvo-input-" + tag + "-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
-    std::filesystem::create_directories(path);
-  }
-  ~TempDir() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path, ignored);
-  }
-  std::string file(const std::string& name) const { return (path / name).string(); }
-  void write(const std::string& name, const std::string& text) const { write_to(file(name), text); }
-  static void write_to(const std::string& file, const std::string& text) {
-    std::ofstream(file, std::ios::binary) << text;
-  }
-};
-
-inline std::string read_text(const std::string& file) {
-  std::ifstream in(file, std::ios::binary);
-  std::stringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
+using TempDir = tarvo::testing::ScratchDir;
+using tarvo::testing::read_file;
+using tarvo::testing::write_file;
 
 }  // namespace tarvo::input::testing

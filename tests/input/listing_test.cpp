@@ -15,7 +15,7 @@ int count(const std::string& text, const std::string& what) {
 
 // Lines the listing must hold: the first five, comments and cards, data lines within the limit.
 int listed_lines(const std::string& file, int list_limit) {
-  std::istringstream in(read_text(file));
+  std::istringstream in(read_file(file));
   int number = 0, listed = 0;
   for (std::string line; std::getline(in, line);) {
     ++number;
@@ -25,17 +25,18 @@ int listed_lines(const std::string& file, int list_limit) {
   return listed;
 }
 
-std::string read_listing(const std::string& file, int list_limit, int message_limit) {
+std::string read_listing(const std::string& file, int list_limit, int message_limit,
+                         lp::ProblemSlot slot = make_slot(), InputStatus* status = nullptr) {
   TempDir dir("listing");
   Units units;
   open_unit(units, 23, dir.file("print"), OpenStatus::unknown);
   lp::Options options = default_options();
   options.ival[lp::kListLimit] = list_limit;
   options.ival[lp::kErrorMessageLimit] = message_limit;
-  lp::ProblemSlot slot = make_slot();
-  read_mps_file(slot, options, units, file, kCorUnit, 23, 0);
+  const MpsReadResult read = read_mps_file(slot, options, units, file, kCorUnit, 23, 0);
+  if (status != nullptr) *status = read.status;
   close_unit(units, 23);
-  return read_text(dir.file("print"));
+  return read_file(dir.file("print"));
 }
 
 TEST(Listing, FirstLinesCardsAndDataWithinTheListLimit) {
@@ -56,7 +57,7 @@ TEST(Listing, FirstLinesCardsAndDataWithinTheListLimit) {
 
 TEST(Listing, MessagesStopAtTheLimitButAllErrorsCount) {
   TempDir dir("limit");
-  std::string core = read_text(example_file("lands3", "MODEL.COR"));
+  std::string core = read_file(example_file("lands3", "MODEL.COR"));
   std::string bad;
   for (int k = 0; k < 15; ++k) bad += "    X1        NOROW" + std::to_string(k) + "    1.0\n";
   core.insert(core.find("    X2"), bad);
@@ -76,15 +77,10 @@ TEST(Listing, CapacityOverflowsAreStorageFailures) {
                         {20, 5, 100, " XXXX  Too many columns.   The limit was       5  Actual number is      16"},
                         {20, 20, 10, " XXXX  Too many elements.  The limit was      10  Actual number is      52"}};
   for (const Case& c : cases) {
-    TempDir dir("capacity");
-    Units units;
-    open_unit(units, 23, dir.file("print"), OpenStatus::unknown);
-    lp::ProblemSlot slot = make_slot(c.rows, c.columns, c.elements);
-    const MpsReadResult read = read_mps_file(slot, default_options(), units, example_file("lands3", "MODEL.COR"),
-                                             kCorUnit, 23, 0);
-    close_unit(units, 23);
-    EXPECT_EQ(read.status, InputStatus::storage);
-    const std::string listing = read_text(dir.file("print"));
+    InputStatus status = InputStatus::ok;
+    const std::string listing = read_listing(example_file("lands3", "MODEL.COR"), 0, 10,
+                                             make_slot(c.rows, c.columns, c.elements), &status);
+    EXPECT_EQ(status, InputStatus::storage);
     EXPECT_NE(listing.find(std::string(c.message) + "\n EXIT -- not enough storage to read the MPS file"),
               std::string::npos) << listing;
   }
@@ -98,7 +94,7 @@ TEST(Listing, PrescanListsRecordsAndParameters) {
   OutcomeStore store;
   EXPECT_EQ(prescan_stoch_file(units, 8, 7, {}, store), InputStatus::ok);
   close_unit(units, 7);
-  const std::string spr = read_text(dir.file("MODEL.SPR"));
+  const std::string spr = read_file(dir.file("MODEL.SPR"));
   EXPECT_EQ(count(spr, "prescan: parameter"), store.jele);
   EXPECT_EQ(count(spr, "\n"), listed_lines(example_file("lands-1e6", "MODEL.STO"), 1 << 30) + store.jele);
 }

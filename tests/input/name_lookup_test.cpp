@@ -65,7 +65,7 @@ TEST(CursorSearch, WrapsAroundAndReportsMissesWithinTheLimit) {
   EXPECT_EQ(cursor_search_reported(names, 1, 4, lp::make_name("Y"), cursor, units, 23, 18, 2), 0);
   EXPECT_EQ(cursor.errors, 3);
   close_unit(units, 23);
-  const std::string text = read_text(dir.file("print"));
+  const std::string text = read_file(dir.file("print"));
   EXPECT_NE(text.find(" XXX  Line     17  --  name not found:        Z"), std::string::npos) << text;
   EXPECT_EQ(text.find("Y"), std::string::npos) << text;
 }

@@ -43,7 +43,7 @@ std::string round_trip(const std::string& file, lp::ProblemSlot& first, lp::Prob
   const MpsReadResult again = read_mps_file(second, options, units, dir.file("MODEL.P00"), kCorUnit, 0, 0);
   EXPECT_EQ(again.status, InputStatus::ok);
   EXPECT_EQ(again.errors, 0);
-  return read_text(dir.file("MODEL.P00"));
+  return read_file(dir.file("MODEL.P00"));
 }
 
 class RoundTrip : public ::testing::TestWithParam<std::string> {};
@@ -91,7 +91,7 @@ TEST(RoundTrip, RangesBoundsAndDefaultNames) {
   for (int j = 1; j <= first.nb; ++j) first.names[j] = lp::Name8{};
   Units units;
   dump_problem(first, 3, {}, units, dir.file("noname"), 27);
-  const std::string text = read_text(dir.file("noname"));
+  const std::string text = read_file(dir.file("noname"));
   EXPECT_NE(text.find("x......1  r......1"), std::string::npos) << text;
   EXPECT_NE(text.find(" MI           x......2"), std::string::npos) << text;
 }

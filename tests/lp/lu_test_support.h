@@ -3,6 +3,8 @@
 // the factors against.
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <numeric>
 #include <random>
 #include <vector>
 
@@ -140,6 +142,35 @@ inline bool pattern_is_sound(const SparseVector& v) {
     if (v.value[i] != 0.0 && !listed[i]) return false;
   }
   return true;
+}
+
+// The column of variable k (k >= a.n: the logical of row k - a.n).
+inline SparseVector column_of(const Matrix& a, int k) {
+  std::vector<double> dense(a.m, 0.0);
+  if (k >= a.n) {
+    dense[k - a.n] = 1.0;
+  } else {
+    for (int e = a.col_start[k]; e < a.col_start[k + 1]; ++e) dense[a.row_index[e]] = a.value[e];
+  }
+  return to_sparse(dense);
+}
+
+// How far the factors' solve of B x = rhs (B^T x = rhs) lies from the dense one. The right-hand
+// side goes in twice: with its nonzeros listed (a sparse solve searches the reach) and with every
+// index listed (too full a pattern for that: the solve sweeps). Infinite when the basis is singular,
+// a result's pattern is unsound or the two ways differ in any bit.
+inline double solve_error(LuFactors& lu, const Matrix& a, const std::vector<int>& head,
+                          const std::vector<double>& rhs, bool transpose) {
+  const std::vector<double> expected = dense_solve(dense_basis(a, head), a.m, rhs, transpose);
+  SparseVector sparse = to_sparse(rhs), swept = to_sparse(rhs);
+  swept.count = swept.size;
+  std::iota(swept.index.begin(), swept.index.end(), 0);
+  for (SparseVector* v : {&sparse, &swept}) transpose ? lu_btran(lu, *v) : lu_ftran(lu, *v, false);
+  const bool same = sparse.value == swept.value && sparse.count == swept.count;
+  if (expected.empty() || !same || !pattern_is_sound(sparse) || !pattern_is_sound(swept)) {
+    return std::numeric_limits<double>::infinity();
+  }
+  return max_difference(sparse.value, expected);
 }
 
 inline LuStatus factorize(LuFactors& lu, const Matrix& a, std::vector<int>& head,

@@ -8,7 +8,7 @@
 
 #include "common/free_format.h"
 #include "lp/optimizer.h"
-#include "work_dir.h"
+#include "run_in_dir.h"
 
 namespace tarvo::lp {
 namespace {
@@ -85,36 +85,29 @@ TEST(OptimizerInit, ReadsTheOptionsFileAndSizesEverySlot) {
   }
 }
 
-struct Initialized {
+TEST(OptimizerSlots, ObjectiveModeSetsCountsAndOptions) {
   testing::WorkDir dir;
+  testing::write_file("SIMPLEX.SPC", "BEGIN\nROWS 4\nCOLUMNS 3\nELEMENTS 10\nEND\n");
   Units units;
   Optimizer opt;
-  Initialized() {
-    testing::write_file("SIMPLEX.SPC", "BEGIN\nROWS 4\nCOLUMNS 3\nELEMENTS 10\nEND\n");
-    open_unit(units, kOut, "MODEL.SCR", OpenStatus::unknown);
-    optimizer_init(opt, units, 0, 0, 0);
-  }
-};
-
-TEST(OptimizerSlots, ObjectiveModeSetsCountsAndOptions) {
-  Initialized run;
-  Optimizer& opt = run.opt;
+  open_unit(units, kOut, "MODEL.SCR", OpenStatus::unknown);
+  optimizer_init(opt, units, 0, 0, 0);
   select_problem(opt, kMasterSlot);
   ProblemSlot& s = active_slot(opt);
   s.n = 4;
   s.nncon = 3;
   s.nnjac = 2;
-  set_objective_mode(opt, run.units, 1, kOut);
+  set_objective_mode(opt, units, 1, kOut);
   EXPECT_EQ(s.nnobj, 4);
   EXPECT_EQ(s.nncon + s.nnjac, 0);
   EXPECT_EQ(opt.options.ival[kSuperbasicsLimit], 5);
   EXPECT_EQ(opt.options.ival[kHessianDimension], 5);
   EXPECT_EQ(opt.options.ival[kPartialPrice], 1);
-  set_objective_mode(opt, run.units, 2, kOut);
+  set_objective_mode(opt, units, 2, kOut);
   EXPECT_EQ(s.nnobj, 0);
   EXPECT_EQ(opt.options.ival[kSuperbasicsLimit], 1);
   EXPECT_EQ(opt.options.ival[kHessianDimension], 5);
-  close_all_units(run.units);
+  close_all_units(units);
   EXPECT_EQ(testing::read_lines("MODEL.SCR"),
             (Lines{"      SUPERBASICS LIMIT 5", "      HESSIAN DIMENSION 5",
                    "      PARTIAL PRICE 1", "      SUPERBASICS LIMIT 1"}));

@@ -7,7 +7,8 @@
 
 #include "common/free_format.h"
 #include "lp/optimizer.h"
-#include "work_dir.h"
+#include "run_in_dir.h"
+#include "simplex_test_support.h"
 
 namespace tarvo::lp {
 namespace {
@@ -24,28 +25,6 @@ struct SolveCase {
   double objective;    // expected when inform = 0
   std::string line;    // expected error line ("" none)
 };
-
-// min cost*x subject to x >= row_lower (row 2), column_lower <= x <= column_upper; row 1 is the
-// free objective row.
-void load_one_column(ProblemSlot& s, const SolveCase& c) {
-  s.m = 2;
-  s.n = 1;
-  s.nb = 3;
-  s.ne = 2;
-  s.iobj = 1;
-  s.a[1] = c.cost;
-  s.ha[1] = 1;
-  s.a[2] = 1.0;
-  s.ha[2] = 2;
-  s.ka[1] = 1;
-  s.ka[2] = 3;
-  s.bl[1] = c.column_lower;
-  s.bu[1] = c.column_upper;
-  s.bl[2] = -kInfiniteBound;
-  s.bu[2] = kInfiniteBound;
-  s.bl[3] = -kInfiniteBound;
-  s.bu[3] = -c.row_lower;
-}
 
 const SolveCase kCases[] = {
     {"optimal", 1.0, 1.0, 0.0, 10.0, 0, 0, 1.0, ""},
@@ -67,7 +46,8 @@ TEST(SolveProblem, HandsBackStatusObjectiveAndSolution) {
     open_unit(units, kOut, "MODEL.SCR", OpenStatus::unknown);
     select_problem(opt, kSubproblemSlot);
     ProblemSlot& s = active_slot(opt);
-    load_one_column(s, c);
+    // min cost*x subject to x >= row_lower, column_lower <= x <= column_upper.
+    test::load_slot({1, 1, {c.cost}, {{1.0}}, {c.row_lower}, {test::kFree}, {c.column_lower}, {c.column_upper}}, s);
     set_objective_mode(opt, units, 0, 0);
     set_option(opt.options, units, "MPS FILE 5", 0, 0);
     if (c.nwcore != 0) opt.nwcore = c.nwcore;

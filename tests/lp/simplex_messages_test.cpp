@@ -2,35 +2,31 @@
 // summary, the iteration log, the start word's complaint, and the workspace check.
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <fstream>
-#include <sstream>
-
+#include "run_in_dir.h"
 #include "simplex_test_support.h"
 
 namespace tarvo::lp::test {
 namespace {
 
-// min -x1 - x2 with x1 + x2 <= 4 (row 1), x1 - x2 >= -2 (row 2), x >= 0.
+// min -x1 - 2 x2 with x1 + x2 <= 4 (row 1), x1 - x2 >= -2 (row 2), x >= 0.
 DenseLp small_lp() {
-  DenseLp lp;
-  lp.n = 2;
-  lp.m = 2;
-  lp.c = {-1.0, -2.0};
-  lp.a = {{1.0, 1.0}, {1.0, -1.0}};
-  lp.row_lo = {-kFree, -2.0};
-  lp.row_up = {4.0, kFree};
-  lp.lo = {0.0, 0.0};
-  lp.up = {kFree, kFree};
-  return lp;
+  return DenseLp{2, 2, {-1.0, -2.0}, {{1.0, 1.0}, {1.0, -1.0}}, {-kFree, -2.0}, {4.0, kFree}, {0.0, 0.0}, {kFree, kFree}};
 }
 
-std::string read_file(const std::string& path) {
-  std::ifstream in(path);
-  std::stringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
+// A solve in a directory of its own, printing to PRINT (unit 31) and, when asked, SUMMARY (32).
+struct Printed : Harness {
+  tarvo::testing::WorkDir dir{"simplex"};
+  explicit Printed(const DenseLp& lp = small_lp(), bool summary = false) {
+    load_slot(lp, slot);
+    EXPECT_TRUE(open_unit(units, 31, "PRINT", OpenStatus::unknown));
+    options.ival[kPrintFile] = 31;
+    if (summary && open_unit(units, 32, "SUMMARY", OpenStatus::unknown)) options.ival[kSummaryFile] = 32;
+  }
+  std::string text(const char* file = "PRINT") {
+    close_all_units(units);
+    return tarvo::testing::read_file(file);
+  }
+};
 
 struct ExitCase {
   const char* name;
@@ -43,23 +39,14 @@ class SimplexExit : public ::testing::TestWithParam<ExitCase> {};
 TEST_P(SimplexExit, WritesItsMessageToPrintAndSummaryUnits) {
   const ExitCase& ec = GetParam();
   DenseLp lp = small_lp();
-  Harness h;
   if (ec.inform == 1) lp.row_lo[1] = 5.0;  // x1 - x2 >= 5 cannot meet x1 + x2 <= 4, x >= 0
   if (ec.inform == 2) lp.row_up[0] = kFree;
+  Printed h(lp, true);
   if (ec.inform == 3) h.options.ival[kIterationLimit] = 0;
-  load_slot(lp, h.slot);
-  // One file pair per case: ctest runs the cases in parallel.
-  const std::string print = testing::TempDir() + "simplex_exit_print_" + ec.name + ".txt";
-  const std::string summary = testing::TempDir() + "simplex_exit_summary_" + ec.name + ".txt";
-  ASSERT_TRUE(open_unit(h.units, 31, print, OpenStatus::unknown));
-  ASSERT_TRUE(open_unit(h.units, 32, summary, OpenStatus::unknown));
-  h.options.ival[kPrintFile] = 31;
-  h.options.ival[kSummaryFile] = 32;
   EXPECT_EQ(h.solve("cold"), ec.inform);
-  close_all_units(h.units);
-  for (const std::string& path : {print, summary}) {
-    const std::string text = read_file(path);
-    EXPECT_NE(text.find(std::string(ec.message) + "\n"), std::string::npos) << path << ":\n" << text;
+  for (const char* file : {"PRINT", "SUMMARY"}) {
+    const std::string text = h.text(file);
+    EXPECT_NE(text.find(std::string(ec.message) + "\n"), std::string::npos) << file << ":\n" << text;
     EXPECT_NE(text.find("\n\n Problem name                 TEST    \n No. of iterations"), std::string::npos) << text;
     EXPECT_NE(text.find(" No. of infeasibilities"), std::string::npos);
   }
@@ -74,45 +61,30 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(SimplexEntry, TooLittleWorkspaceReturns42WithoutMessageOrSolve) {
-  Harness h;
-  load_slot(small_lp(), h.slot);
+  Printed h;
   h.slot.obj = 123.0;
-  const std::string print = testing::TempDir() + "simplex_workspace_print.txt";
-  ASSERT_TRUE(open_unit(h.units, 31, print, OpenStatus::unknown));
-  h.options.ival[kPrintFile] = 31;
   h.nwcore = simplex_workspace_needed(h.slot.m, h.slot.n, h.slot.ne) - 1;
   EXPECT_EQ(h.solve("cold"), 42);
   EXPECT_EQ(h.slot.mincor, h.nwcore + 1);
   EXPECT_EQ(h.slot.obj, 123.0);
-  close_all_units(h.units);
-  EXPECT_EQ(read_file(print).find("EXIT"), std::string::npos);
+  EXPECT_EQ(h.text().find("EXIT"), std::string::npos);
   // Anything within the slot's capacities fits the workspace the optimizer is given.
   EXPECT_LE(simplex_workspace_needed(h.slot.mmax, h.slot.nmax, h.slot.nemax), 2 * h.slot.nemax);
 }
 
 TEST(SimplexEntry, UnknownStartWordIsReportedAndSolvedCold) {
-  Harness h;
-  load_slot(small_lp(), h.slot);
-  const std::string print = testing::TempDir() + "simplex_start_print.txt";
-  ASSERT_TRUE(open_unit(h.units, 31, print, OpenStatus::unknown));
-  h.options.ival[kPrintFile] = 31;
+  Printed h;
   EXPECT_EQ(h.solve("zap"), 0);
   EXPECT_NEAR(h.slot.obj, -7.0, 1e-12);
-  close_all_units(h.units);
-  EXPECT_NE(read_file(print).find(" XXX Start parameter not recognized:  zap\n"), std::string::npos);
+  EXPECT_NE(h.text().find(" XXX Start parameter not recognized:  zap\n"), std::string::npos);
 }
 
 TEST(SimplexEntry, IterationLogHasHeaderAndOneRecordPerFrequency) {
-  Harness h;
-  load_slot(small_lp(), h.slot);
-  const std::string print = testing::TempDir() + "simplex_log_print.txt";
-  ASSERT_TRUE(open_unit(h.units, 31, print, OpenStatus::unknown));
-  h.options.ival[kPrintFile] = 31;
+  Printed h;
   h.options.ival[kLogFrequency] = 1;
   h.options.ival[kCrashOption] = 0;
   ASSERT_EQ(h.solve("cold"), 0);
-  close_all_units(h.units);
-  const std::string text = read_file(print);
+  const std::string text = h.text();
   const std::string header = "    Itn       dj  ninf      sinf       objective     LU\n";
   ASSERT_NE(text.find(header), std::string::npos) << text;
   int records = 0;

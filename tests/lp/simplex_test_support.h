@@ -13,6 +13,7 @@
 #include "lp/options.h"
 #include "lp/problem_slot.h"
 #include "lp/simplex.h"
+#include "lu_test_support.h"
 
 namespace tarvo::lp::test {
 
@@ -36,6 +37,18 @@ struct Reference {
 
 inline double slot_bound(double v) { return std::isinf(v) ? (v > 0 ? kInfiniteBound : -kInfiniteBound) : v; }
 
+// Changes only bounds and right-hand sides of an already loaded slot.
+inline void load_limits(const DenseLp& lp, ProblemSlot& slot) {
+  for (int j = 0; j < lp.n; ++j) {
+    slot.bl[j + 1] = slot_bound(lp.lo[j]);
+    slot.bu[j + 1] = slot_bound(lp.up[j]);
+  }
+  for (int i = 0; i < lp.m; ++i) {
+    slot.bl[lp.n + i + 2] = slot_bound(-lp.row_up[i]);
+    slot.bu[lp.n + i + 2] = slot_bound(-lp.row_lo[i]);
+  }
+}
+
 // Slot layout: row 1 the free objective row, rows 2..m+1 the constraints.
 inline void load_slot(const DenseLp& lp, ProblemSlot& slot) {
   if (slot.mmax < lp.m + 1 || slot.nmax < lp.n || slot.nemax < (lp.m + 1) * lp.n)
@@ -58,36 +71,14 @@ inline void load_slot(const DenseLp& lp, ProblemSlot& slot) {
   }
   slot.ka[lp.n + 1] = k;
   slot.ne = k - 1;
-  for (int j = 0; j < lp.n; ++j) {
-    slot.bl[j + 1] = slot_bound(lp.lo[j]);
-    slot.bu[j + 1] = slot_bound(lp.up[j]);
-  }
   slot.bl[lp.n + 1] = -kInfiniteBound;
   slot.bu[lp.n + 1] = kInfiniteBound;
-  for (int i = 0; i < lp.m; ++i) {
-    slot.bl[lp.n + i + 2] = slot_bound(-lp.row_up[i]);
-    slot.bu[lp.n + i + 2] = slot_bound(-lp.row_lo[i]);
-  }
-}
-
-// Changes only bounds and right-hand sides of an already loaded slot.
-inline void load_limits(const DenseLp& lp, ProblemSlot& slot) {
-  for (int j = 0; j < lp.n; ++j) {
-    slot.bl[j + 1] = slot_bound(lp.lo[j]);
-    slot.bu[j + 1] = slot_bound(lp.up[j]);
-  }
-  for (int i = 0; i < lp.m; ++i) {
-    slot.bl[lp.n + i + 2] = slot_bound(-lp.row_up[i]);
-    slot.bu[lp.n + i + 2] = slot_bound(-lp.row_lo[i]);
-  }
+  load_limits(lp, slot);
 }
 
 // Vertex enumeration within an artificial box |x_j| <= big.
 inline Reference enumerate_vertices(const DenseLp& lp, double kBig) {
-  struct Plane {
-    std::vector<double> a;
-    double b;
-  };
+  struct Plane { std::vector<double> a; double b; };
   std::vector<Plane> planes;
   auto add = [&](std::vector<double> a, double b) { planes.push_back({std::move(a), b}); };
   for (int i = 0; i < lp.m; ++i) {
@@ -119,38 +110,16 @@ inline Reference enumerate_vertices(const DenseLp& lp, double kBig) {
   std::vector<int> pick(n);
   for (int j = 0; j < n; ++j) pick[j] = j;
   while (true) {
-    std::vector<std::vector<double>> mat(n, std::vector<double>(n + 1));
+    std::vector<double> mat(static_cast<std::size_t>(n) * n), rhs(n);
     for (int r = 0; r < n; ++r) {
-      for (int j = 0; j < n; ++j) mat[r][j] = planes[pick[r]].a[j];
-      mat[r][n] = planes[pick[r]].b;
+      for (int j = 0; j < n; ++j) mat[static_cast<std::size_t>(r) * n + j] = planes[pick[r]].a[j];
+      rhs[r] = planes[pick[r]].b;
     }
-    bool singular = false;
-    for (int col = 0; col < n && !singular; ++col) {
-      int piv = col;
-      for (int r = col + 1; r < n; ++r)
-        if (std::fabs(mat[r][col]) > std::fabs(mat[piv][col])) piv = r;
-      if (std::fabs(mat[piv][col]) < 1e-10) {
-        singular = true;
-        break;
-      }
-      std::swap(mat[piv], mat[col]);
-      for (int r = 0; r < n; ++r) {
-        if (r == col) continue;
-        const double f = mat[r][col] / mat[col][col];
-        for (int j = col; j <= n; ++j) mat[r][j] -= f * mat[col][j];
-      }
-    }
-    if (!singular) {
-      std::vector<double> x(n);
-      for (int j = 0; j < n; ++j) x[j] = mat[j][n] / mat[j][j];
-      if (feasible(x)) {
-        double obj = 0.0;
-        for (int j = 0; j < n; ++j) obj += lp.c[j] * x[j];
-        if (best.outcome == Outcome::infeasible || obj < best.objective) {
-          best.outcome = Outcome::optimal;
-          best.objective = obj;
-        }
-      }
+    const std::vector<double> x = dense_solve(mat, n, rhs, false, 1e-10);
+    if (!x.empty() && feasible(x)) {
+      double obj = 0.0;
+      for (int j = 0; j < n; ++j) obj += lp.c[j] * x[j];
+      if (best.outcome == Outcome::infeasible || obj < best.objective) best = {Outcome::optimal, obj};
     }
     int t = n - 1;
     while (t >= 0 && pick[t] == p - n + t) --t;
@@ -160,6 +129,8 @@ inline Reference enumerate_vertices(const DenseLp& lp, double kBig) {
   }
   return best;
 }
+
+inline int expected_inform(Outcome o) { return o == Outcome::optimal ? 0 : o == Outcome::infeasible ? 1 : 2; }
 
 // The LP is unbounded when widening the artificial box improves the optimum.
 inline Reference brute_force(const DenseLp& lp) {
@@ -180,39 +151,22 @@ inline DenseLp random_lp(std::mt19937& rng, int kind) {
   lp.a.assign(lp.m, std::vector<double>(lp.n));
   for (auto& row : lp.a)
     for (double& v : row) v = pick(rng) < 3 ? 0.0 : coef(rng);
-  for (int j = 0; j < lp.n; ++j) {
+  for (int j = 0; j < lp.n; ++j) {  // free, boxed, lower only, fixed, boxed below, upper only
     const int t = kind == 1 ? 3 : pick(rng);
     const double base = coef(rng);
     if (t <= 1) {
-      lp.lo.push_back(-kFree);
-      lp.up.push_back(kFree);
+      lp.lo.push_back(-kFree), lp.up.push_back(kFree);
     } else if (t <= 5) {
-      lp.lo.push_back(base);
-      lp.up.push_back(t == 5 ? base : (t == 4 ? kFree : base + 1 + pick(rng)));
+      lp.lo.push_back(base), lp.up.push_back(t == 5 ? base : t == 4 ? kFree : base + 1 + pick(rng));
     } else {
-      lp.lo.push_back(t == 9 ? -kFree : base - 3);
-      lp.up.push_back(base);
+      lp.lo.push_back(t == 9 ? -kFree : base - 3), lp.up.push_back(base);
     }
   }
-  for (int i = 0; i < lp.m; ++i) {
+  for (int i = 0; i < lp.m; ++i) {  // equality, at most, at least, ranged, free
     const int t = pick(rng);
     const double r = coef(rng) * 2;
-    if (t <= 2) {
-      lp.row_lo.push_back(r);
-      lp.row_up.push_back(r);
-    } else if (t <= 5) {
-      lp.row_lo.push_back(-kFree);
-      lp.row_up.push_back(r);
-    } else if (t <= 7) {
-      lp.row_lo.push_back(r);
-      lp.row_up.push_back(kFree);
-    } else if (t == 8) {
-      lp.row_lo.push_back(r - 3);
-      lp.row_up.push_back(r);
-    } else {
-      lp.row_lo.push_back(-kFree);
-      lp.row_up.push_back(kFree);
-    }
+    lp.row_lo.push_back(t <= 2 || t == 6 || t == 7 ? r : t == 8 ? r - 3 : -kFree);
+    lp.row_up.push_back(t <= 5 || t == 8 ? r : kFree);
   }
   return lp;
 }
@@ -240,18 +194,19 @@ struct Harness {
 };
 
 // Largest violation of primal feasibility and of the optimality conditions by the slot's
-// solution (xn, pi, rc), in the slot's own units.
+// solution (xn, pi, rc), in the slot's own units; `gradient` (1-based) is what a nonlinear
+// objective adds to the costs at xn.
 struct KktError {
   double primal = 0.0;
   double dual = 0.0;
   double reduced_cost = 0.0;  // |rc - (c - A^T pi)|
 };
 
-inline KktError kkt_error(const ProblemSlot& slot) {
+inline KktError kkt_error(const ProblemSlot& slot, const std::vector<double>& gradient = {}) {
   KktError e;
   std::vector<double> activity(slot.m + 1, 0.0);
   for (int j = 1; j <= slot.n; ++j) {
-    double rc = 0.0;
+    double rc = gradient.empty() ? 0.0 : gradient[j];
     for (int k = slot.ka[j]; k < slot.ka[j + 1]; ++k) {
       activity[slot.ha[k]] += slot.a[k] * slot.xn[j];
       rc += (slot.ha[k] == slot.iobj ? slot.a[k] : 0.0) - slot.a[k] * slot.pi[slot.ha[k]];

@@ -2,10 +2,8 @@
 // A bundled example loaded as the driver loads it (optimizer, core, split, outcome store), the
 // context of an evaluation over it, and an independent way to the recourse cost: the core
 // problem with the first stage fixed, the outcome applied by name from MODEL.STO, solved cold.
-#include <filesystem>
 #include <fstream>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,6 +15,7 @@
 #include "input/stoch_file.h"
 #include "input/time_file.h"
 #include "lp/optimizer.h"
+#include "harness.h"
 #include "run_in_dir.h"
 #include "sampling/draw.h"
 #include "sampling/evaluation.h"
@@ -24,14 +23,8 @@
 namespace tarvo::sampling::testing {
 
 // One outcome change read from MODEL.STO: a right-hand side (column empty) or a matrix entry.
-struct Change {
-  std::string column, row;
-  double value = 0.0;
-};
-struct Outcome {
-  double prob = 0.0;
-  std::vector<Change> changes;
-};
+struct Change { std::string column, row; double value = 0.0; };
+struct Outcome { double prob = 0.0; std::vector<Change> changes; };
 using Block = std::vector<Outcome>;
 
 inline std::string field(const std::string& line, std::size_t from, std::size_t to) {
@@ -81,46 +74,22 @@ inline std::vector<Block> read_blocks(const std::string& file, const std::string
   return blocks;
 }
 
-struct ExampleModel {
-  std::filesystem::path previous = std::filesystem::current_path();
-  std::filesystem::path dir = tarvo::testing::fresh_directory("sampling");
-  Units units;
-  RunParams params;
-  RunClock clock;
-  std::unique_ptr<lp::Optimizer> opt = std::make_unique<lp::Optimizer>();
-  input::Decomposition dec;
-  input::OutcomeStore store;
+struct ExampleModel : Harness {
+  tarvo::testing::WorkDir dir{"sampling"};
   input::StageNames stages;
   input::MpsReadResult read;
-  int iteration = 1;
-  std::vector<double> master_primal, master_duals;
-  double first_stage_cost = 0.0;
-  int model_status = 0, solver_status = 0;
   lp::ProblemSlot pristine_core;
   std::vector<Block> blocks;
   std::map<std::string, int> index_of;  // core column and row names (rows after the columns)
   std::vector<double> x_core;           // first-stage values of the core's own optimum
   Evaluation ev;
 
-  ExampleModel() { std::filesystem::current_path(dir); }
-  ~ExampleModel() {
-    std::filesystem::current_path(previous);
-    std::error_code ignored;
-    std::filesystem::remove_all(dir, ignored);
-  }
-
-  Context context() {
-    return Context{.units = units, .params = params, .clock = clock, .optimizer = *opt, .model = dec,
-                   .store = store, .log_unit = 0, .err_unit = 0, .iteration = iteration,
-                   .master_primal = master_primal, .master_duals = master_duals,
-                   .first_stage_cost = first_stage_cost, .model_status = model_status,
-                   .solver_status = solver_status};
-  }
+  ExampleModel() { iteration = 1; }
 
   // Reads the example, solves its core for a first-stage proposal and sizes the evaluation.
   bool load(const std::string& name) {
-    tarvo::testing::copy_example(name, dir);
-    if (lp::optimizer_init(*opt, units, 0, 0, 0) != 0) return false;
+    tarvo::testing::copy_example(name, dir.path);
+    if (lp::optimizer_init(optimizer, units, 0, 0, 0) != 0) return false;
     const input::MessageUnits to{};
     if (!open_unit(units, 8, "MODEL.STO", OpenStatus::old_file)) return false;
     const bool scanned = !input::failed(input::prescan_stoch_file(units, 8, 0, to, store));
@@ -128,21 +97,21 @@ struct ExampleModel {
     if (!scanned) return false;
     input::allocate_outcome_store(store);
     if (input::failed(input::read_time_file(units, "MODEL.TIM", 32, 0, to, stages))) return false;
-    lp::ProblemSlot& core = opt->slot[lp::kCoreSlot];
-    if (input::failed(input::read_core_problem(core, opt->options, units, 0, 0, to, 0, read))) return false;
-    input::allocate_decomposition(dec, core);
-    if (input::failed(input::decompose(core, stages, params.nzrows, opt->slot[1], opt->slot[2], dec, units, to)))
+    lp::ProblemSlot& core = optimizer.slot[lp::kCoreSlot];
+    if (input::failed(input::read_core_problem(core, optimizer.options, units, 0, 0, to, 0, read))) return false;
+    input::allocate_decomposition(model, core);
+    if (input::failed(input::decompose(core, stages, params.nzrows, optimizer.slot[1], optimizer.slot[2], model, units, to)))
       return false;
-    const input::StochContext sc{opt->slot[1], opt->slot[2], dec, read.names.rhs};
+    const input::StochContext sc{optimizer.slot[1], optimizer.slot[2], model, read.names.rhs};
     if (input::failed(input::read_stoch_file(units, "MODEL.STO", 8, 0, to, sc, store))) return false;
     pristine_core = core;
-    opt->names = {read.names.problem, read.names.objective, read.names.rhs, read.names.ranges, read.names.bounds};
+    optimizer.names = {read.names.problem, read.names.objective, read.names.rhs, read.names.ranges, read.names.bounds};
     for (int k = 1; k <= core.nb; ++k) index_of[std::string(field(std::string(lp::name_view(core.names[k])), 1, 8))] = k;
     blocks = read_blocks("MODEL.STO", field(std::string(lp::name_view(read.names.rhs)), 1, 8));
-    x_core = core_first_stage(std::vector<double>(dec.n1 + 1, 1.0));
-    master_primal.assign(dec.n1 + 2 + opt->slot[1].m, 0.0);
-    master_duals.assign(dec.n1 + 2 + opt->slot[1].m, 0.0);
-    for (int j = 1; j <= dec.n1; ++j) master_primal[j] = x_core[j];
+    x_core = core_first_stage(std::vector<double>(model.n1 + 1, 1.0));
+    master_primal.assign(model.n1 + 2 + optimizer.slot[1].m, 0.0);
+    master_duals.assign(model.n1 + 2 + optimizer.slot[1].m, 0.0);
+    set_proposal(x_core);
     if (allocate_evaluation(ev, context()) != kOk) return false;
     expvals(ev, store);
     return true;
@@ -150,50 +119,50 @@ struct ExampleModel {
 
   // A cold solve of the core slot; true when optimal.
   bool solve_core(double& obj, std::vector<double>& primal) {
-    lp::select_problem(*opt, lp::kCoreSlot);
+    lp::select_problem(optimizer, lp::kCoreSlot);
     int inform = 0;
     double spare = 0.0;
     std::vector<double> duals;
-    lp::solve_problem(*opt, units, 0, inform, 0, obj, spare, duals, spare, primal);
+    lp::solve_problem(optimizer, units, 0, inform, 0, obj, spare, duals, spare, primal);
     return inform == 0;
   }
 
   // First-stage values of the core's optimum with the first-stage costs scaled column by column.
   std::vector<double> core_first_stage(const std::vector<double>& cost_scale) {
-    lp::ProblemSlot& core = opt->slot[lp::kCoreSlot];
+    lp::ProblemSlot& core = optimizer.slot[lp::kCoreSlot];
     core = pristine_core;
-    for (int j = 1; j <= dec.n1; ++j) {
-      const int col = dec.j1 + j - 1;
+    for (int j = 1; j <= model.n1; ++j) {
+      const int col = model.j1 + j - 1;
       for (int p = core.ka[col]; p < core.ka[col + 1]; ++p)
         if (core.ha[p] == 1) core.a[p] *= cost_scale[j];
     }
     std::vector<double> primal;
     double obj = 0.0;
     solve_core(obj, primal);
-    std::vector<double> x(dec.n1 + 1, 0.0);
-    for (int j = 1; j <= dec.n1; ++j) x[j] = primal[dec.j1 + j - 1];
+    std::vector<double> x(model.n1 + 1, 0.0);
+    for (int j = 1; j <= model.n1; ++j) x[j] = primal[model.j1 + j - 1];
     return x;
   }
 
   void set_proposal(const std::vector<double>& x) {
-    for (int j = 1; j <= dec.n1; ++j) master_primal[j] = x[j];
+    for (int j = 1; j <= model.n1; ++j) master_primal[j] = x[j];
   }
 
   // Recourse cost of one outcome combination (outcome[b] from 0) at x: the core with its first
   // stage fixed and its first-stage rows freed; false when infeasible.
   bool recourse(const std::vector<double>& x, const std::vector<int>& outcome, double& cost) {
-    lp::ProblemSlot& core = opt->slot[lp::kCoreSlot];
+    lp::ProblemSlot& core = optimizer.slot[lp::kCoreSlot];
     core = pristine_core;
     for (std::size_t b = 0; b < blocks.size(); ++b)
       for (const Change& c : blocks[b][outcome[b]].changes) apply(core, c);
     double first = 0.0;
-    for (int j = 1; j <= dec.n1; ++j) {
-      const int col = dec.j1 + j - 1;
+    for (int j = 1; j <= model.n1; ++j) {
+      const int col = model.j1 + j - 1;
       core.bl[col] = core.bu[col] = x[j];
       for (int p = core.ka[col]; p < core.ka[col + 1]; ++p)
         if (core.ha[p] == 1) first += core.a[p] * x[j];
     }
-    for (int r = 2; r < dec.i2; ++r) {
+    for (int r = 2; r < model.i2; ++r) {
       core.bl[core.n + r] = -lp::kInfiniteBound;
       core.bu[core.n + r] = lp::kInfiniteBound;
     }

@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdio>
 #include <string>
 
 #include "harness.h"
+#include "run_in_dir.h"
 #include "sampling/statistics.h"
 
 namespace tarvo::sampling {
@@ -46,6 +46,7 @@ TEST(Statistics, GapTest) {
       {5.0 + 0.5e-7, 5.0, 0.0, 0.0, 10, 1},        // no variance: U - L <= tolben
       {5.0 + 2e-7, 5.0, 0.0, 0.0, 10, 0},
   };
+  const tarvo::testing::WorkDir dir("gaptest");
   for (const GapCase& c : cases) {
     testing::Harness h;
     h.log_unit = 61;
@@ -58,12 +59,7 @@ TEST(Statistics, GapTest) {
     gaptest(h.context(), ev, c.L, c.VL, result);
     close_unit(h.units, 61);
     EXPECT_EQ(result, c.result) << c.U << " " << c.n;
-    char line[64] = "";
-    std::FILE* f = std::fopen("gaptest.log", "r");
-    const bool written = f != nullptr && std::fgets(line, sizeof line, f) != nullptr;
-    if (f != nullptr) std::fclose(f);
-    EXPECT_EQ(written && std::string(line) == " insufficient sample size\n", c.result == -1);
-    std::remove("gaptest.log");
+    EXPECT_EQ(tarvo::testing::read_file("gaptest.log") == " insufficient sample size\n", c.result == -1);
   }
 }
 

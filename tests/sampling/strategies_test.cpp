@@ -26,13 +26,13 @@ TEST_F(Lands3, EveryStrategyLeavesAnOptimalityCut) {
   prepare_presample(m.context(), m.ev);
   for (int istrat = 1; istrat <= 11; ++istrat) {
     ASSERT_EQ(evaluate(m.context(), m.ev, istrat), kOk) << istrat;
-    EXPECT_EQ(m.ev.cut.gus[m.dec.n1 + 1], 1.0) << istrat;
+    EXPECT_EQ(m.ev.cut.gus[m.model.n1 + 1], 1.0) << istrat;
     EXPECT_GT(m.ev.cut.objs, 0.0) << istrat;
     if (istrat == 1) {
       EXPECT_NEAR(m.ev.cut.objs, cost_at_mean_demand, 1e-9);
     }
   }
-  EXPECT_EQ(m.opt->active, lp::kMasterSlot);
+  EXPECT_EQ(m.optimizer.active, lp::kMasterSlot);
   // Presampling keeps its sample: the same estimate twice, no generator step.
   ASSERT_EQ(evaluate(m.context(), m.ev, 8), kOk);
   const double first = m.ev.cut.objs;
@@ -46,7 +46,7 @@ TEST_F(Lands3, EveryStrategyLeavesAnOptimalityCut) {
 
 TEST_F(Lands3, BestProposalTiesReplaceAndReevaluationCollects) {
   std::vector<double> cheap = m.x_core, dear = m.x_core;
-  for (int j = 1; j <= m.dec.n1; ++j) dear[j] *= 1.2;
+  for (int j = 1; j <= m.model.n1; ++j) dear[j] *= 1.2;
   const struct { const std::vector<double>& x; double tag, first_stage_cost; bool best; } steps[] = {
       {cheap, 1.0, 0.0, true}, {dear, 2.0, 1e4, false}, {cheap, 3.0, 0.0, true}};
   for (const auto& s : steps) {
@@ -62,7 +62,7 @@ TEST_F(Lands3, BestProposalTiesReplaceAndReevaluationCollects) {
   EXPECT_EQ(m.master_duals[1], 3.0);
   // The universe's collected second-stage values reproduce the expected cost (fixed costs q).
   ASSERT_EQ(reevaluate(m.context(), m.ev, 4), kOk);
-  const lp::ProblemSlot& sub = m.opt->slot[lp::kSubproblemSlot];
+  const lp::ProblemSlot& sub = m.optimizer.slot[lp::kSubproblemSlot];
   double q_y = 0.0;
   for (int j = 1; j <= sub.n; ++j)
     for (int p = sub.ka[j]; p < sub.ka[j + 1]; ++p)
@@ -73,14 +73,14 @@ TEST_F(Lands3, BestProposalTiesReplaceAndReevaluationCollects) {
 }
 
 TEST_F(Lands3, InfeasibleOutcomeGivesAFeasibilityCut) {
-  m.set_proposal(std::vector<double>(m.dec.n1 + 1, 0.0));  // no capacity for any demand
+  m.set_proposal(std::vector<double>(m.model.n1 + 1, 0.0));  // no capacity for any demand
   for (int istrat : {1, 2, 4, 6, 10}) {
     ASSERT_EQ(evaluate(m.context(), m.ev, istrat), kOk);
-    EXPECT_EQ(m.ev.cut.gus[m.dec.n1 + 1], 0.0);
+    EXPECT_EQ(m.ev.cut.gus[m.model.n1 + 1], 0.0);
     EXPECT_EQ(m.ev.cut.objs, kInfiniteCost);
     EXPECT_GT(m.ev.cut.gls, 0.0);  // cuts off x = 0 ...
     double at_core = 0.0;          // ... but not the core's own first stage
-    for (int j = 1; j <= m.dec.n1; ++j) at_core += m.ev.cut.gus[j] * m.x_core[j];
+    for (int j = 1; j <= m.model.n1; ++j) at_core += m.ev.cut.gus[j] * m.x_core[j];
     EXPECT_GE(at_core, m.ev.cut.gls - 1e-9) << istrat;
   }
 }

@@ -43,11 +43,7 @@ TEST(Tables, UniverseBeyondTheTableIsRefused) {
 }
 
 TEST(Allocate, LargestRemainders) {
-  struct Case {
-    std::vector<double> weights;
-    int N;
-    std::vector<int> counts;
-  };
+  struct Case { std::vector<double> weights; int N; std::vector<int> counts; };
   const Case cases[] = {
       {{1, 2, 3, 4}, 20, {2, 4, 6, 8}},   // exact quotas
       {{1, 2, 3, 4}, 4, {1, 1, 1, 1}},    // N = n: no passes

@@ -27,11 +27,7 @@ bool expected_recourse(testing::ExampleModel& m, const std::vector<double>& x, d
   }
 }
 
-struct Point {
-  std::vector<double> x;
-  double exact = 0.0;
-  CutRecord cut;
-};
+struct Point { std::vector<double> x; double exact = 0.0; CutRecord cut; };
 
 double cut_at(const CutRecord& cut, const std::vector<double>& x, int n1) {
   double value = cut.gls;
@@ -48,7 +44,7 @@ TEST(Universe, EqualsScenarioSolvesAndItsCutsSupport) {
     testing::ExampleModel m;
     m.params.istrat = 4;
     ASSERT_TRUE(m.load(name));
-    const int n1 = m.dec.n1;
+    const int n1 = m.model.n1;
     std::mt19937 rng(11);
     std::uniform_real_distribution<double> u(0.5, 1.5);
     std::vector<Point> points;
