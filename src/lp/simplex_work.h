@@ -97,7 +97,7 @@ void reset_dual_weights(SimplexState& s);
 int choose_leaving(SimplexState& s);
 void update_dual_weights(SimplexState& s, int r, double pivot);
 
-// Ratio tests (ratio_test.cpp).
+// Ratio tests (ratio_tests.cpp).
 struct PrimalStep {
   int position = -1;  // basis position of the leaving variable, -1 for a bound flip or no limit
   double step = 0.0;  // distance the entering variable moves
