@@ -65,14 +65,5 @@ TEST(Decimal, RoundsToNearestWithTiesToEven) {
   }
 }
 
-TEST(Decimal, RoundsToDecimalPlaces) {
-  EXPECT_EQ(round_to_places(Decimal{"12345", 3, false}, 1).digits, "1234");  // 123.45 -> 123.4
-  EXPECT_EQ(round_to_places(Decimal{"12355", 3, false}, 1).digits, "1236");  // 123.55 -> 123.6
-  const Decimal up = round_to_places(Decimal{"96", 0, false}, 1);             // 0.96 -> 1.0
-  EXPECT_EQ(up.digits, "1");
-  EXPECT_EQ(up.point, 1);
-  EXPECT_EQ(round_to_places(Decimal{"4", -2, false}, 2).digits, "");         // 0.004 -> 0.00
-}
-
 }  // namespace
 }  // namespace tarvo

@@ -17,37 +17,26 @@ namespace fs = std::filesystem;
 using testing::read_file;
 using testing::write_file;
 
-// Each test runs in a fresh working directory of its own.
-class InTempDirectory : public ::testing::Test {
+class UnitsTest : public ::testing::Test {  // each test in a fresh working directory of its own
   testing::WorkDir dir_{"common"};
 };
+using LineReaderTest = UnitsTest;
 
-using UnitsTest = InTempDirectory;
-using LineReaderTest = InTempDirectory;
-
-TEST_F(UnitsTest, WritingToAnUnopenedUnitCreatesFortFile) {
-  Units units;
-  write_line(units, 15, "   12  1.50000E+00");
-  write_line(units, 15, "second");
-  close_all_units(units);
-  EXPECT_EQ(read_file("fort.15"), "   12  1.50000E+00\nsecond\n");
-}
-
-TEST_F(UnitsTest, RecordsAndFreeLinesReachTheirUnit) {
+// Records and free lines reach an opened unit, an unopened one writes to fort.<unit>, and writes
+// to no file or to standard input leave no file behind.
+TEST_F(UnitsTest, WritesReachTheirFiles) {
   Units units;
   ASSERT_TRUE(open_unit(units, 16, "MODEL.SOL", OpenStatus::unknown));
   write_record(units, 16, "(i2/1x,a)", {1LL, std::string_view("two")});
   write_free(units, 16, "objval  = ", -2.5);
   write_free(units, 16);
-  close_all_units(units);
-  EXPECT_EQ(read_file("MODEL.SOL"), " 1\n two\n objval  =  -2.5\n \n");
-}
-
-TEST_F(UnitsTest, WritesToNoFileOrStandardInputAreDropped) {
-  Units units;
+  write_line(units, 15, "   12  1.50000E+00");
+  write_line(units, 15, "second");
   for (int unit : {0, -1, -48, kStdinUnit}) write_line(units, unit, "dropped");
   close_all_units(units);
-  EXPECT_TRUE(fs::is_empty(fs::current_path()));
+  EXPECT_EQ(read_file("MODEL.SOL"), " 1\n two\n objval  =  -2.5\n \n");
+  EXPECT_EQ(read_file("fort.15"), "   12  1.50000E+00\nsecond\n");
+  EXPECT_EQ(std::distance(fs::directory_iterator("."), fs::directory_iterator()), 2);
 }
 
 TEST_F(UnitsTest, OpenStatuses) {

@@ -139,9 +139,6 @@ TEST(RecordOutput, LinesGroupsAndRunningOutOfItems) {
        {"    100" "  1.5E-03" "     2" " 1.250E-01" " -1.25000000E+01" "     45"}},
       {"(4x, 2a4, 2x, 2a4, 1p, e14.5)", {sv("COL1"), sv("    "), sv("ROW2"), sv("    "), -2.5},
        {"    " "COL1    " "  " "ROW2    " "  -2.50000E+00"}},
-      {"(4x, 2a4, 2x, 2a4, f8.0     )", {sv("COL1"), sv("    "), sv("ROW2"), sv("    "), -1.0},
-       {"    " "COL1    " "  " "ROW2    " "     -1."}},
-      {"(3i6)", {1LL, -22LL, 333LL}, {"     1" "   -22" "   333"}},
       // Items run out: output stops at the first data descriptor without one.
       {"(1x,a32,1x,f15.2)", {}, {" "}},
       {"(1x,i6,3(1x,e20.4))", {1LL, 5.0}, {" " "     1" " " "          0.5000E+01" " "}},

@@ -69,6 +69,20 @@ struct ExampleRun {
   std::string file(const std::string& name) const { return read_file(dir.path / name); }
 };
 
+// TARVO run in a fresh directory holding only MODEL.INP (none when null) and, unless told
+// otherwise, the sample options.
+struct BareRun {
+  ScratchDir dir{"bare"};
+  ProgramRun program;
+  explicit BareRun(const char* inp, bool options = true) {
+    if (inp != nullptr) write_file(dir.path / "MODEL.INP", inp);
+    if (options) write_file(dir.path / "SIMPLEX.SPC", kSampleOptions);
+    program = run_program(TARVO_BINARY, dir.path, "");
+  }
+  std::string file(const std::string& name) const { return read_file(dir.path / name); }
+  bool has(const std::string& name) const { return fs::exists(dir.path / name); }
+};
+
 inline double relative_error(double value, double reference) {
   return std::abs(value - reference) / std::max(1.0, std::abs(reference));
 }

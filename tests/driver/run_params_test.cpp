@@ -5,7 +5,7 @@
 #include <string>
 
 #include "driver/mode_line.h"
-#include "run_in_dir.h"
+#include "end_to_end_support.h"
 
 namespace tarvo::testing {
 namespace {
@@ -15,18 +15,6 @@ struct InpCase {
   const char* inp;  // nullptr: no MODEL.INP at all
   const char* expected_echo_lines;  // lines that must stand in the echo, '\n'-separated
 };
-
-std::string model_inp_echo(const char* inp, std::string& err, std::string& console) {
-  const ScratchDir scratch("inp");
-  const fs::path& dir = scratch.path;
-  if (inp) write_file(dir / "MODEL.INP", inp);
-  write_file(dir / "SIMPLEX.SPC", kSampleOptions);
-  const ProgramRun run = run_program(TARVO_BINARY, dir, "");
-  EXPECT_EQ(run.status, 0);
-  console = run.console;
-  err = read_file(dir / "MODEL.ERR");
-  return read_file(dir / "MODEL.SCR");
-}
 
 TEST(RunParams, ModelInpIsReadAndEchoed) {
   const std::string defaults =
@@ -57,16 +45,17 @@ TEST(RunParams, ModelInpIsReadAndEchoed) {
   };
   for (const InpCase& c : cases) {
     SCOPED_TRACE(c.name);
-    std::string err, console;
-    const std::string log = model_inp_echo(c.inp, err, console);
+    const BareRun run(c.inp);
+    EXPECT_EQ(run.program.status, 0);
+    const std::string log = run.file("MODEL.SCR");
     EXPECT_TRUE(contains(log, " parameters: \n \n istrat    = ")) << log;
     std::istringstream wanted(c.expected_echo_lines);
     for (std::string line; std::getline(wanted, line);) {
       EXPECT_TRUE(contains(log, line + "\n")) << "missing: [" << line << "]\n" << log;
     }
     // Without a model the run goes on to the stochastic file and ends there.
-    EXPECT_EQ(err, " ERROR in file MODEL.STO\n");
-    EXPECT_TRUE(contains(console, "\n \n ERROR Exit\n")) << console;
+    EXPECT_EQ(run.file("MODEL.ERR"), " ERROR in file MODEL.STO\n");
+    EXPECT_TRUE(contains(run.program.console, "\n \n ERROR Exit\n")) << run.program.console;
   }
 }
 
@@ -74,9 +63,8 @@ TEST(RunParams, OnlyTheFirstThousandRecordsAreRead) {
   std::string inp;
   for (int i = 1; i < 1000; ++i) inp += "1 iwrite\n";
   inp += "8 istrat\n9 istrat\n";
-  std::string err, console;
-  const std::string log = model_inp_echo(inp.c_str(), err, console);
-  EXPECT_TRUE(contains(log, " istrat    =  8\n")) << log;
+  const BareRun run(inp.c_str());
+  EXPECT_TRUE(contains(run.file("MODEL.SCR"), " istrat    =  8\n")) << run.file("MODEL.SCR");
 }
 
 TEST(RunParams, FaultyRecordsEndTheRunBeforeTheEcho) {
@@ -90,11 +78,11 @@ TEST(RunParams, FaultyRecordsEndTheRunBeforeTheEcho) {
   };
   for (const char* inp : faulty) {
     SCOPED_TRACE(inp);
-    std::string err, console;
-    const std::string log = model_inp_echo(inp, err, console);
-    EXPECT_EQ(err, " error in file MODEL.INP\n");
-    EXPECT_FALSE(contains(log, "parameters:"));
-    EXPECT_TRUE(contains(console, "\n \n ERROR Exit\n")) << console;
+    const BareRun run(inp);
+    EXPECT_EQ(run.program.status, 0);
+    EXPECT_EQ(run.file("MODEL.ERR"), " error in file MODEL.INP\n");
+    EXPECT_FALSE(contains(run.file("MODEL.SCR"), "parameters:"));
+    EXPECT_TRUE(contains(run.program.console, "\n \n ERROR Exit\n")) << run.program.console;
   }
 }
 

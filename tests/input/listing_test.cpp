@@ -7,11 +7,7 @@
 namespace tarvo::input::testing {
 namespace {
 
-int count(const std::string& text, const std::string& what) {
-  int n = 0;
-  for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) ++n;
-  return n;
-}
+using tarvo::testing::count_of;
 
 // Lines the listing must hold: the first five, comments and cards, data lines within the limit.
 int listed_lines(const std::string& file, int list_limit) {
@@ -63,7 +59,7 @@ TEST(Listing, MessagesStopAtTheLimitButAllErrorsCount) {
   core.insert(core.find("    X2"), bad);
   dir.write("core", core);
   const std::string listing = read_listing(dir.file("core"), 0, 4);
-  EXPECT_EQ(count(listing, "Non-existent row"), 4);
+  EXPECT_EQ(count_of(listing, "Non-existent row"), 4);
   EXPECT_NE(listing.find(" XXXX  Total no. of errors in MPS file      15"), std::string::npos) << listing;
   EXPECT_NE(listing.find(" EXIT -- fatal errors in the MPS file"), std::string::npos);
 }
@@ -95,8 +91,8 @@ TEST(Listing, PrescanListsRecordsAndParameters) {
   EXPECT_EQ(prescan_stoch_file(units, 8, 7, {}, store), InputStatus::ok);
   close_unit(units, 7);
   const std::string spr = read_file(dir.file("MODEL.SPR"));
-  EXPECT_EQ(count(spr, "prescan: parameter"), store.jele);
-  EXPECT_EQ(count(spr, "\n"), listed_lines(example_file("lands-1e6", "MODEL.STO"), 1 << 30) + store.jele);
+  EXPECT_EQ(count_of(spr, "prescan: parameter"), store.jele);
+  EXPECT_EQ(count_of(spr, "\n"), listed_lines(example_file("lands-1e6", "MODEL.STO"), 1 << 30) + store.jele);
 }
 
 // Options as the options file leaves them before any solve: most still unset.

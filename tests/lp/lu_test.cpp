@@ -218,17 +218,18 @@ TEST(LuUpdate, LongSequencesMatchFreshFactorizations) {
 
 // Updates that must be refused, leaving the factors of the old basis intact.
 TEST(LuUpdate, RefusesAndKeepsTheOldFactors) {
-  enum class Setup { no_spike, bad_position, max_updates_zero, entering_copies_other };
-  struct Case {
+  // The entering variable copies the one in position 0, so replacing position 1 is singular.
+  const struct Case {
     const char* name;
-    Setup setup;
+    bool spike;  // the entering column went through ftran
+    int position;
+    bool no_updates;
     LuRefusal why;
-  };
-  const Case cases[] = {
-      {"no spike", Setup::no_spike, LuRefusal::no_spike},
-      {"position out of range", Setup::bad_position, LuRefusal::bad_position},
-      {"no updates allowed", Setup::max_updates_zero, LuRefusal::too_many_updates},
-      {"dependent entering column", Setup::entering_copies_other, LuRefusal::singular},
+  } cases[] = {
+      {"no spike", false, 1, false, LuRefusal::no_spike},
+      {"position out of range", true, 20, false, LuRefusal::bad_position},
+      {"no updates allowed", true, 1, true, LuRefusal::too_many_updates},
+      {"dependent entering column", true, 1, false, LuRefusal::singular},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
@@ -236,15 +237,13 @@ TEST(LuUpdate, RefusesAndKeepsTheOldFactors) {
     const Matrix a = random_matrix(20, 40, 0.15, rng);
     std::vector<int> head = random_head(a, 0.3, rng);
     LuSettings settings;
-    if (c.setup == Setup::max_updates_zero) settings.max_updates = 0;
+    if (c.no_updates) settings.max_updates = 0;
     LuFactors lu;
     LuReport report;
     ASSERT_EQ(factorize(lu, a, head, settings, report), LuStatus::ok);
-    // The entering variable copies the one in position 0, so replacing position 1 is singular.
     SparseVector x = column_of(a, head[0]);
-    if (c.setup != Setup::no_spike) lu_ftran(lu, x, true);
-    const int position = c.setup == Setup::bad_position ? 20 : 1;
-    EXPECT_EQ(lu_update(lu, position, settings), LuStatus::refactor_needed);
+    if (c.spike) lu_ftran(lu, x, true);
+    EXPECT_EQ(lu_update(lu, c.position, settings), LuStatus::refactor_needed);
     EXPECT_EQ(lu_last_refusal(lu), c.why);
     EXPECT_LT(solve_error(lu, a, head, random_rhs(20, 20, rng), false), 1e-9);
   }

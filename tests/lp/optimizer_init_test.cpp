@@ -1,5 +1,5 @@
-// Initialization from SIMPLEX.SPC, the problem slots, the objective mode and the regularization
-// callback.
+// Initialization from SIMPLEX.SPC, the problem slots and the objective mode (the regularization
+// callback is checked through the regularized solves of simplex_quadratic_test.cpp).
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -111,28 +111,6 @@ TEST(OptimizerSlots, ObjectiveModeSetsCountsAndOptions) {
   EXPECT_EQ(testing::read_lines("MODEL.SCR"),
             (Lines{"      SUPERBASICS LIMIT 5", "      HESSIAN DIMENSION 5",
                    "      PARTIAL PRICE 1", "      SUPERBASICS LIMIT 1"}));
-}
-
-struct RegobjCase {
-  double rho;
-  std::vector<double> x, xhat, g;  // 1-based
-  double f;
-};
-
-TEST(Regobj, ProximalTermLeavesTheLastColumnOut) {
-  const RegobjCase cases[] = {
-      {2.0, {0, 1, 4, 100}, {0, 0, 2, 50}, {0, 0.5, 1, 0}, 1.25},
-      {0.5, {0, -1, 0, 7}, {0, 1, 0, -3}, {0, -4, 0, 0}, 4.0}, {1.0, {0, 9}, {0, 1}, {0, 0}, 0.0},
-  };
-  for (const RegobjCase& c : cases) {
-    const Regularization reg{.xhat = c.xhat, .rho = c.rho};
-    const int n = static_cast<int>(c.x.size()) - 1;
-    std::vector<double> g(c.x.size(), -1.0);
-    double f = -1.0;
-    regobj(reg, 0, n, c.x.data(), f, g.data(), 0, 1);
-    EXPECT_DOUBLE_EQ(f, c.f);
-    for (int j = 1; j <= n; ++j) EXPECT_DOUBLE_EQ(g[j], c.g[j]) << j;
-  }
 }
 
 }  // namespace
