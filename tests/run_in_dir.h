@@ -32,12 +32,14 @@ inline std::string read_file(const fs::path& path) {
   return buffer.str();
 }
 
-inline std::vector<std::string> read_lines(const fs::path& path) {
+inline std::vector<std::string> split_lines(const std::string& text) {
   std::vector<std::string> lines;
-  std::istringstream text(read_file(path));
-  for (std::string line; std::getline(text, line);) lines.push_back(line);
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
   return lines;
 }
+
+inline std::vector<std::string> read_lines(const fs::path& path) { return split_lines(read_file(path)); }
 
 inline bool has_line(const std::vector<std::string>& lines, const std::string& wanted) {
   return std::find(lines.begin(), lines.end(), wanted) != lines.end();

@@ -56,13 +56,6 @@ void expect_consistent(Model& m, const std::string& dir) {
   ASSERT_EQ(again.ne, m.core.ne);
 }
 
-std::vector<std::string> lines_of(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream in(text);
-  for (std::string line; std::getline(in, line);) lines.push_back(line);
-  return lines;
-}
-
 std::string joined(const std::vector<std::string>& lines, const char* end = "\n") {
   std::string text;
   for (const auto& line : lines) text += line + end;
@@ -71,7 +64,7 @@ std::string joined(const std::vector<std::string>& lines, const char* end = "\n"
 
 std::string mutate(std::string text, std::mt19937& rng) {
   const auto pick = [&](std::size_t n) { return n == 0 ? 0 : std::uniform_int_distribution<std::size_t>(0, n - 1)(rng); };
-  std::vector<std::string> lines = lines_of(text);
+  std::vector<std::string> lines = tarvo::testing::split_lines(text);
   const std::size_t line = pick(lines.size());
   switch (pick(10)) {
     case 0:
