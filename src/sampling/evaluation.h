@@ -124,9 +124,10 @@ struct Evaluation {
   std::vector<double> acc_primal;  // [1..n2+m2]
   std::vector<double> acc_duals;   // [1..m2+n2]
 
-  // Work counters for the run's statistics: subproblem solves, and points that took the results
-  // of an identical point solved just before them.
-  int start_flag = 0;        // 0 until the first subproblem solve of the run (cold)
+  int start_flag = 0;  // 0 until the first subproblem solve of the run, which starts cold
+
+  // Work counters for the run's statistics: subproblem solves and their pivots, and points that
+  // took the results of an identical point solved just before them.
   long long lp_solves = 0;
   long long lp_pivots = 0;  // simplex iterations over all subproblem solves
   long long reused_points = 0;
