@@ -112,7 +112,7 @@ int choose_leaving(SimplexState& s) {
 
 // Dual steepest edge update after a pivot in row r on column `s.column` (alpha_q), with rho the
 // row of the old inverse and tau = B^-1 rho:
-//   w_p = max(w_p - 2 kappa tau_p + kappa^2 w_r, kappa^2 w_r), kappa = alpha_pq / alpha_rq.
+//   w_p = w_p - 2 kappa tau_p + kappa^2 w_r, kappa = alpha_pq / alpha_rq (kept above a floor).
 void update_dual_weights(SimplexState& s, int r, double pivot) {
   double wr = 0.0;
   for (int t = 0; t < s.rho.count; ++t) {
@@ -125,9 +125,8 @@ void update_dual_weights(SimplexState& s, int r, double pivot) {
     if (p == r) continue;
     const double kappa = alpha.value[p] / pivot;
     if (kappa == 0.0) continue;
-    const double floor = std::max(kappa * kappa * wr, kWeightFloor);
     const double w = s.dual_weight[p] + kappa * (kappa * wr - 2.0 * s.tau.value[p]);
-    s.dual_weight[p] = std::max(w, floor);
+    s.dual_weight[p] = std::max(w, kWeightFloor);
   }
   s.dual_weight[r] = std::max(wr / (pivot * pivot), kWeightFloor);
 }
