@@ -1,6 +1,6 @@
 // tarvo-lp FILE.mps: reads a fixed-column MPS file into a problem slot, solves it cold with the
 // simplex optimizer and prints the exit status, the objective (12 significant digits), the
-// iterations and the solve time.
+// iterations and the solve time, after a line of the solve's counters.
 #include <chrono>
 #include <cstdio>
 #include <fstream>
@@ -92,6 +92,10 @@ int main(int argc, char** argv) {
   const int inform = lp::optimizer_solve(state, options, units, slot, "cold", names, 2 * slot.nemax, regularization);
   const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   std::fflush(stdout);
+  const lp::SimplexCounters& c = state.counters;
+  std::printf("primal %d  dual %d  bound flips %d  factorizations %d  singular %d  cleanups %d\n",
+              c.primal_iterations, c.dual_iterations, c.bound_flips, c.factorizations, c.singular_repairs,
+              c.cleanup_rounds);
   std::printf("status %d (%s)  objective %.12g  iterations %d  time %.3f s\n", inform, status_text(inform),
               inform == 1 ? slot.sinf : slot.obj, state.counters.iterations, seconds);
   close_all_units(units);

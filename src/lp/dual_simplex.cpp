@@ -33,6 +33,8 @@ bool make_dual_feasible(SimplexState& s) {
   return flipped;
 }
 
+// Fresh duals and primal values, the reduced costs made dual feasible again. A factorization
+// restarts the expanding tolerances, with the reduced costs that slipped shifted to zero.
 int refresh(SimplexState& s, const SimplexSettings& settings, Units& units, bool refactor) {
   if (refactor) {
     const int code = factorize_basis(s, settings, units);
@@ -42,10 +44,16 @@ int refresh(SimplexState& s, const SimplexSettings& settings, Units& units, bool
   set_basic_costs(s);
   compute_duals(s);
   make_dual_feasible(s);
+  if (refactor) {
+    reset_expand(s);
+    shift_slipped_costs(s);
+  }
   compute_primal_values(s);
   if (!s.dual_weights_valid) reset_dual_weights(s);
   return kExitOptimal;
 }
+
+}  // namespace
 
 // Small random cost changes in the direction that keeps each reduced cost dual feasible.
 void perturb_costs(SimplexState& s) {
@@ -60,6 +68,8 @@ void perturb_costs(SimplexState& s) {
   }
   s.costs_shifted = true;
 }
+
+namespace {
 
 // w[i] += v, listing i on its first touch: the pattern then costs what the flips touch, not O(m).
 void add_to_row(SimplexState& s, SparseVector& w, int i, double v) {
@@ -114,6 +124,9 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
       code = refresh(s, settings, units, true);
       if (code != kExitOptimal) return code;
       fresh = true;
+    } else if (expand_reset_due(s, settings)) {
+      reset_expand(s);
+      shift_slipped_costs(s);
     }
     const int r = choose_leaving(s);
     if (r < 0) {
@@ -132,7 +145,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
     load_unit_row(s, r);
     lu_btran(s.lu, s.rho);
     compute_pivot_row(s);
-    const DualStep step = dual_ratio_test(s, s.x[leaving] - bound, settings);
+    const DualStep step = dual_ratio_test(s, s.x[leaving] - bound, s.primal_tol[leaving], settings);
     if (step.entering < 0) {
       if (!fresh) {
         s.refactor_due = true;
@@ -148,14 +161,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
       s.refactor_due = true;
       continue;
     }
-    double dual_step = s.d[q] / pivot;
-    // A reduced cost of the wrong sign would move the leaving variable's the wrong way too.
-    if ((s.state[q] == kNonbasicLower && s.d[q] < 0.0) || (s.state[q] == kNonbasicUpper && s.d[q] > 0.0)) {
-      s.cost[q] -= s.d[q];
-      s.d[q] = 0.0;
-      s.costs_shifted = true;
-      dual_step = 0.0;
-    }
+    const double dual_step = s.d[q] / pivot;
     if (s.flipped_count > 0) apply_flips(s);
 
     sparse_clear(s.tau);
@@ -180,12 +186,13 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
     update_factors(s, r);
     refactors_in_a_row = 0;
     fresh = false;
+    advance_expand(s, settings);
     ++s.counters.iterations;
     ++s.counters.dual_iterations;
     s.dj_last = s.d[leaving];
     log_iteration(s, settings, units);
 
-    degenerate = dual_step != 0.0 ? 0 : degenerate + 1;
+    degenerate = step.lengthened ? degenerate + 1 : 0;
     if (degenerate == kStallBeforePerturb) perturb_costs(s);
     if (degenerate >= stall_limit) {
       s.stall_count = degenerate;

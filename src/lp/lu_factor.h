@@ -18,7 +18,7 @@ namespace tarvo::lp {
 
 struct LuSettings {
   double factor_tol = 100.0;        // largest multiplier |l_ij| accepted in a fresh factorization
-  double update_tol = 10.0;         // an update's multipliers may reach update_tol squared
+  double update_tol = 10.0;         // bounds an update's multipliers (see lu_update)
   double density_tol = 0.5;         // switch to dense elimination of the remaining block above this
   double singularity_tol = 3.25e-11;  // pivots below this are treated as zero
   int max_updates = 100;            // updates before the caller should refactorize
@@ -39,7 +39,7 @@ enum class LuRefusal {
   bad_position,      // position outside 0..m-1
   too_many_updates,  // max_updates reached
   singular,          // the new diagonal is zero or tiny relative to the spike
-  unstable,          // multiplier above update_tol^2, or the new diagonal disagrees with the pivot
+  unstable,          // multiplier too large, or the new diagonal disagrees with the pivot
   fill,              // the factors have grown so much that refactorizing is cheaper
   storage,           // no room left in the factor storage
 };

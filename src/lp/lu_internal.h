@@ -20,6 +20,11 @@ inline constexpr int kLuLineSlack = 4;
 // touches is cheap, so the search pays only for very sparse vectors.
 inline constexpr double kLuHyperStart = 0.02;
 inline constexpr double kLuHyperAbandon = 0.05;
+// An update is refused when its multipliers exceed the update tolerance to this power (1e8 for the
+// default 10). The diagonal check below catches the updates that lose accuracy; a bound as tight
+// as the factorization's would refactorize the dense bases of models like pilot every few
+// iterations.
+inline constexpr int kLuUpdateGrowthPower = 8;
 // An update is refused when its new diagonal and the pivot of the ftran result times the old
 // diagonal (equal in exact arithmetic) differ relatively by more than this.
 inline constexpr double kLuUpdateCheckTol = 1e-8;

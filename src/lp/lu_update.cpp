@@ -4,9 +4,10 @@
 // x[r] -= m . x, with m solving m^T U22 = (row r of U). The new diagonal is s_r - m . s.
 //
 // Stability: the update cannot exchange rows to keep its multipliers small, as a fresh
-// factorization does under factor_tol, so it accepts multipliers up to update_tol squared and
-// relies for accuracy on a direct check: in exact arithmetic the new diagonal equals the pivot of
-// the ftran result times the old diagonal, and an update where the two disagree is refused.
+// factorization does under factor_tol, so it accepts multipliers up to update_tol to the power
+// kLuUpdateGrowthPower and relies for accuracy on a direct check: in exact arithmetic the new
+// diagonal equals the pivot of the ftran result times the old diagonal, and an update where the
+// two disagree is refused.
 #include <algorithm>
 #include <cmath>
 
@@ -130,7 +131,7 @@ LuStatus lu_update(LuFactors& lu, int position, const LuSettings& settings) {
     return refuse(lu, LuRefusal::singular);
   }
   const double expected = result_at(lu, p) * lu.diag[r];
-  if (growth > settings.update_tol * settings.update_tol ||
+  if (growth > std::pow(settings.update_tol, kLuUpdateGrowthPower) ||
       std::fabs(diagonal - expected) > kLuUpdateCheckTol * std::fabs(diagonal)) {
     return refuse(lu, LuRefusal::unstable);
   }

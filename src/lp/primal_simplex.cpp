@@ -1,6 +1,7 @@
 // The primal simplex method: phase 1 minimizes the sum of infeasibilities of the basic
 // variables (their costs are the gradient of that sum), phase 2 the objective. Devex partial
-// pricing, Harris ratio test with bound flips, bound perturbation against stalling.
+// pricing, Harris ratio test with bound flips under expanding tolerances, bound perturbation
+// against stalling.
 #include <cmath>
 
 #include "lp/simplex_tolerances.h"
@@ -10,11 +11,14 @@ namespace tarvo::lp {
 
 namespace {
 
-// Fresh factors, primal values, phase and reduced costs.
+// Fresh factors, primal values, phase and reduced costs. A factorization restarts the expanding
+// tolerances, and nonbasic variables that slipped off their bounds go back to them.
 int refresh(SimplexState& s, const SimplexSettings& settings, Units& units, bool refactor) {
   if (refactor) {
     const int code = factorize_basis(s, settings, units);
     if (code != kExitOptimal) return code;
+    reset_expand(s);
+    return_slipped_nonbasics(s);
   }
   compute_primal_values(s);
   measure_infeasibility(s);
@@ -95,9 +99,18 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       if (code != kExitOptimal) return code;
       objective = current_objective(s);
       fresh = true;
+    } else if (expand_reset_due(s, settings)) {
+      reset_expand(s);
+      if (return_slipped_nonbasics(s)) {
+        refresh(s, settings, units, false);
+        objective = current_objective(s);
+        fresh = true;
+      }
     }
     const int q = choose_entering(s, settings);
     if (q < 0) {
+      // The point must hold with every nonbasic variable on its bound.
+      if (return_slipped_nonbasics(s)) fresh = false;
       if (!fresh) {
         code = refresh(s, settings, units, false);
         objective = current_objective(s);
@@ -155,6 +168,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     }
     refactors_in_a_row = 0;
     fresh = false;
+    advance_expand(s, settings);
     ++s.counters.iterations;
     ++s.counters.primal_iterations;
 

@@ -1,7 +1,8 @@
-// Ratio tests. Primal: Harris two-pass with the feasibility tolerance, the entering variable's
-// own bound (a bound flip), and in phase 1 infeasible basics that block where they become
-// feasible. Dual: Harris two-pass with the optimality tolerance and bound flipping, passing
-// boxed candidates while the dual objective keeps improving.
+// Ratio tests. Primal: Harris two-pass with the working feasibility tolerance of the
+// anti-degeneracy procedure, the entering variable's own bound (a bound flip), and in phase 1
+// infeasible basics that block where they become feasible. Dual: Harris two-pass with the working
+// optimality tolerance and bound flipping, passing boxed candidates while the dual objective keeps
+// improving. Each takes at least the step that the growth of the working tolerance allows.
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -21,11 +22,11 @@ struct Block {
 };
 
 // How far the entering variable may move before basic variable j, changing at `rate` per unit
-// step, passes its bound (relaxed by its tolerance when `relaxed`).
+// step, passes its bound (relaxed by the working tolerance when `relaxed`).
 Block basic_block(const SimplexState& s, int j, double rate, bool relaxed) {
   Block b;
   const double tol = s.primal_tol[j];
-  const double relax = relaxed ? kHarrisRelax * tol : 0.0;
+  const double relax = relaxed ? s.expand_share * tol : 0.0;
   const double x = s.x[j];
   const bool phase_one = s.phase == 1;
   if (rate > 0.0) {
@@ -40,6 +41,31 @@ Block basic_block(const SimplexState& s, int j, double rate, bool relaxed) {
     b.ratio = std::max(0.0, (x - b.target + relax) / -rate);
   }
   return b;
+}
+
+// A step shorter than the growth of the working tolerance allows is lengthened to it: the leaving
+// variable then passes its bound by that growth and leaves at the value it reaches.
+void take_least_step(const SimplexState& s, PrimalStep& out, int direction, const SimplexSettings& settings) {
+  const int j = s.head[out.position];
+  const double a = s.column.value[out.position];
+  const double least = expand_increment(settings) * s.primal_tol[j] / std::fabs(a);
+  if (out.step >= least) return;
+  out.step = least;
+  out.leaving_value = s.x[j] - direction * a * least;
+}
+
+// The entering variable's reduced cost is shifted, when its slack is below the growth of the
+// working tolerance, so that the dual step is at least that growth over the pivot.
+// The slack is d_q where d_q must stay >= 0, and -d_q where it must stay <= 0. Returns whether the
+// step was lengthened.
+bool take_least_dual_step(SimplexState& s, int q, double slack, bool slack_is_d, const SimplexSettings& settings) {
+  const double least = expand_increment(settings) * s.dual_tol[q];
+  if (slack >= least) return false;
+  const double shift = slack_is_d ? least - slack : slack - least;
+  s.cost[q] += shift;
+  s.d[q] += shift;
+  s.costs_shifted = true;
+  return true;
 }
 
 }  // namespace
@@ -82,6 +108,7 @@ PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const Simple
     out.leaving_value = b.target;
     out.leaving_state = b.target == s.lower[s.head[p]] ? kNonbasicLower : kNonbasicUpper;
   }
+  if (out.position >= 0) take_least_step(s, out, direction, settings);
   return out;
 }
 
@@ -169,10 +196,11 @@ PrimalStep phase_one_ratio_test(SimplexState& s, int q, int direction, const Sim
   const int j = s.head[out.position];
   out.leaving_state = code % 2 == 0 ? kNonbasicLower : kNonbasicUpper;
   out.leaving_value = code % 2 == 0 ? s.lower[j] : s.upper[j];
+  take_least_step(s, out, direction, settings);
   return out;
 }
 
-DualStep dual_ratio_test(SimplexState& s, double infeasibility, const SimplexSettings& settings) {
+DualStep dual_ratio_test(SimplexState& s, double infeasibility, double tolerance, const SimplexSettings& settings) {
   DualStep out;
   s.flipped_count = 0;
   // To lower bound (infeasibility < 0) the leaving variable must rise: a candidate at its lower
@@ -212,12 +240,13 @@ DualStep dual_ratio_test(SimplexState& s, double infeasibility, const SimplexSet
     double theta_max = kInf;
     for (int k = 0; k < count; ++k) {
       const double a = std::fabs(s.pivot_row[s.candidate[k]]);
-      theta_max = std::min(theta_max, (s.candidate_ratio[k] + kHarrisRelax * s.dual_tol[s.candidate[k]]) / a);
+      theta_max = std::min(theta_max, (s.candidate_ratio[k] + s.expand_share * s.dual_tol[s.candidate[k]]) / a);
     }
     double slope_drop = 0.0;
     bool must_enter = false;
     int best = -1;
     double best_pivot = 0.0;
+    double best_slack = 0.0;
     int group = 0;
     for (int k = 0; k < count; ++k) {
       const int j = s.candidate[k];
@@ -229,9 +258,12 @@ DualStep dual_ratio_test(SimplexState& s, double infeasibility, const SimplexSet
       if (a > best_pivot) {
         best_pivot = a;
         best = j;
+        best_slack = s.candidate_ratio[k];
       }
     }
-    if (must_enter || slope - slope_drop < 0.0) {
+    // Flips that bring the leaving variable within its tolerance leave it to the entering one.
+    if (must_enter || slope - slope_drop <= tolerance) {
+      out.lengthened = take_least_dual_step(s, best, best_slack, sign * s.pivot_row[best] < 0.0, settings);
       out.entering = best;
       out.dual_step = s.d[best] / s.pivot_row[best];
       return out;

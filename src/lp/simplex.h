@@ -39,7 +39,7 @@ struct SimplexCounters {
   int factorizations = 0;
   int singular_repairs = 0;
   int regobj_calls = 0;
-  int cleanup_rounds = 0;  // re-solves with tolerances tightened after the check in true units
+  int cleanup_rounds = 0;  // re-solves with tolerances changed after the check in true units
   bool reused_factors = false;  // the solve started from the factors kept from the last one
   bool reused_scales = false;
 };
@@ -94,16 +94,16 @@ struct SimplexState {
   std::vector<double> row_floor_work;  // [m] entries below this and their column's floor do not
   std::vector<double> col_floor_work;  // [n] steer the scale factors
   // Feasibility and optimality tolerances of each variable in working units: the options' values
-  // unless the check of the solution in true units has tightened them.
+  // unless the check of the solution in true units has changed them.
   std::vector<double> primal_tol;  // [n + m]
   std::vector<double> dual_tol;    // [n + m]
   std::vector<double> implied_row;  // [m] scratch of the check: each logical's value from A x
   // What primal_tol and dual_tol hold: the options' values over this many variables, unless a
-  // check has tightened some.
+  // check has changed some.
   int tolerances_filled = 0;
   double filled_feasibility_tol = 0.0;
   double filled_optimality_tol = 0.0;
-  bool tolerances_tightened = false;
+  bool tolerances_changed = false;
   bool candidates_rejected = false;  // rejected holds marks of this or the last solve
   bool costs_shifted = false;
   bool bounds_perturbed = false;
@@ -141,6 +141,12 @@ struct SimplexState {
   bool duals_current = false;
   int updates = 0;           // basis changes since the last factorization
   bool refactor_due = false;
+
+  // Anti-degeneracy: the ratio tests let variables pass their bounds (reduced costs pass zero) by
+  // this share of their tolerances, which grows every iteration and starts again every EXPAND
+  // FREQUENCY iterations and at every factorization.
+  double expand_share = 0.5;
+  int expand_count = 0;
 
   // Pricing weights: primal Devex over variables, dual steepest edge over basis positions.
   std::vector<double> primal_weight;  // [n + m]

@@ -71,11 +71,11 @@ bool prepare_basis(SimplexState& s, const ProblemSlot& slot, const SimplexSettin
 }
 
 // Solves the working problem from the prepared basis: the primal method from a primal feasible
-// basis, the dual method (shifting costs where the basis is not dual feasible) otherwise; then
-// takes perturbations and shifts away and cleans up with whichever method the remaining
-// infeasibilities call for. An infeasible problem always ends with a primal phase 1, so that its
-// duals are those of the sum of infeasibilities.
-int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Units& units) {
+// basis, the dual method otherwise, after its phase 1 when many reduced costs have the wrong sign
+// (a few are shifted away instead); then takes perturbations and shifts away and cleans up with
+// whichever method the remaining infeasibilities call for. An infeasible problem always ends with
+// a primal phase 1, so that its duals are those of the sum of infeasibilities.
+int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Units& units, bool cold) {
   if (!s.factors_valid) {
     s.duals_current = false;  // fresh factors are there to recompute everything from
     const int code = factorize_basis(s, settings, units);
@@ -93,8 +93,8 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
       set_basic_costs(s);
       compute_duals(s);
     }
-    const bool dual_feasible = count_dual_infeasible(s) == 0;
-    if (s.ninf == 0 && dual_feasible) {
+    int wrong_sign = count_dual_infeasible(s);
+    if (s.ninf == 0 && wrong_sign == 0) {
       code = kExitOptimal;
       values_fresh = true;
       break;
@@ -102,7 +102,13 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     if (s.ninf == 0) {
       code = run_primal(s, settings, units);
     } else {
-      code = run_dual(s, settings, units, dual_feasible);
+      if (wrong_sign > kFewWrongSigns) {
+        code = run_dual_phase_one(s, settings, units);
+        if (code != kExitOptimal && code != kExitStalled) break;
+        wrong_sign = count_dual_infeasible(s);
+      }
+      if (cold && round == 0) perturb_costs(s);
+      code = run_dual(s, settings, units, wrong_sign == 0);
       values_fresh = code == kExitOptimal;
       if (code == kExitInfeasible) {
         restore_costs(s);
@@ -141,8 +147,8 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
 // One solve of the working problem from the current basis, ending with the duals of its final
 // point (of the gradient when the objective is quadratic).
 int solve_from_basis(SimplexState& s, const SimplexSettings& settings, Units& units,
-                     const Regularization& regularization) {
-  if (!s.quadratic) return solve_working_problem(s, settings, units);
+                     const Regularization& regularization, bool cold) {
+  if (!s.quadratic) return solve_working_problem(s, settings, units, cold);
   const int code = run_reduced_gradient(s, settings, units, regularization);
   if (s.factors_valid && code != kExitInfeasible) {
     // Duals and reduced gradients of the final point, with the true costs kept in base_cost.
@@ -152,19 +158,36 @@ int solve_from_basis(SimplexState& s, const SimplexSettings& settings, Units& un
   return code;
 }
 
-// Solves, then checks the solution in true units; where it falls short, the offending variables'
-// tolerances are tightened and the solve continues from the basis on fresh factors.
+// Solves, then judges the result in true units: an optimal solution that falls short there has
+// the offending variables' tolerances tightened, and one within the tolerances is polished, and the
+// solve continues from the basis (on fresh factors after a shortfall, since inaccurate factors can
+// cause one); an infeasible verdict that does not hold in true units has them widened instead. An
+// optimal solution that still violates a row or bound in true units ends the solve with exit 10.
 int solve_to_true_tolerances(SimplexState& s, const SimplexSettings& settings, Units& units,
-                             const Regularization& regularization) {
+                             const Regularization& regularization, bool cold) {
   reset_tolerances(s, settings);
-  int code = solve_from_basis(s, settings, units, regularization);
-  for (int round = 0; round < kCleanupRounds && code == kExitOptimal && s.factors_valid; ++round) {
-    if (tighten_unscaled_violations(s, settings) == 0) break;
+  int code = solve_from_basis(s, settings, units, regularization, cold);
+  bool polished = s.quadratic;
+  for (int round = 0; round < kCleanupRounds && s.factors_valid; ++round) {
+    if (code == kExitOptimal) {
+      const TrueUnitCheck check = tighten_unscaled_violations(s, settings);
+      if (check.primal + check.dual > 0) {
+        s.factors_valid = false;
+      } else if (polished || polish_tolerances(s, settings) == 0) {
+        break;
+      } else {
+        polished = true;
+      }
+    } else if (code != kExitInfeasible || !loosen_to_true_units(s, settings)) {
+      break;
+    }
     ++s.counters.cleanup_rounds;
-    s.factors_valid = false;
+    s.duals_current = false;
     clear_rejections(s);
-    code = solve_from_basis(s, settings, units, regularization);
+    code = solve_from_basis(s, settings, units, regularization, false);
   }
+  if (code == kExitOptimal && s.factors_valid && tighten_unscaled_violations(s, settings).primal > 0)
+    code = kExitNumerical;
   return code;
 }
 
@@ -195,7 +218,7 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   s.duals_current = s.duals_current && matrix_kept && s.counters.reused_factors && !costs_changed && !s.quadratic;
   s.nonlinear_objective = 0.0;
   clear_rejections(s);
-  const int code = solve_to_true_tolerances(s, settings, units, regularization);
+  const int code = solve_to_true_tolerances(s, settings, units, regularization, mode.kind == StartKind::cold);
   store_solution(s, slot, code == kExitInfeasible);
   if (code != kExitOptimal) return code;
   // Optimal or near-optimal: the largest reduced gradient against the size of the duals.
@@ -279,6 +302,10 @@ SimplexSettings settings_from_options(const Options& o) {
   t.scale_option = o.ival[kScaleOption];
   t.scale_tol = o.rval[kScaleTolerance];
   t.factor_frequency = std::max(1, o.ival[kFactorizationFrequency]);
+  t.expand_frequency = std::max(1, o.ival[kExpandFrequency]);
+  t.check_frequency = std::max(1, o.ival[kCheckFrequency]);
+  t.unbounded_step = o.rval[kUnboundedStep];
+  t.unbounded_objective = o.rval[kUnboundedObjective];
   t.iteration_limit = o.ival[kIterationLimit];
   t.log_frequency = o.ival[kLogFrequency];
   t.summary_frequency = o.ival[kSummaryFrequency];

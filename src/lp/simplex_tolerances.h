@@ -15,6 +15,9 @@ inline constexpr double kPivotMismatch = 1.0e-8;
 // Devex and dual steepest edge weights are restarted when one grows beyond this.
 inline constexpr double kWeightResetLimit = 1.0e6;
 inline constexpr double kWeightFloor = 1.0e-4;
+// The share of each variable's tolerance that the ratio tests let it slip by right after a reset of
+// the anti-degeneracy procedure; it grows to the whole tolerance over EXPAND FREQUENCY iterations.
+inline constexpr double kExpandStart = 0.5;
 // Iterations with no objective progress before bounds (primal) or costs (dual) are perturbed. An
 // iteration progresses when it improves the best value reached by this share of it.
 inline constexpr int kStallBeforePerturb = 50;
@@ -32,9 +35,6 @@ inline constexpr double kRowwiseShare = 0.4;
 // Optimal and near-optimal are told apart at this ratio of the reduced-gradient norm to the
 // reference norm: the single-precision 0.1 widened to double, compared in double precision.
 inline constexpr double kNearOptimalRatio = 0.10000000149011612;
-// The Harris ratio tests relax bounds by this multiple of the feasibility (primal) or optimality
-// (dual) tolerance in their first pass.
-inline constexpr double kHarrisRelax = 1.0;
 // A problem whose sum of infeasibilities is below this multiple of the feasibility tolerance per
 // infeasible variable is taken as feasible when a phase 1 stops.
 inline constexpr double kPhaseOneSlack = 1.0;
@@ -55,6 +55,14 @@ inline constexpr double kUnscaledRelative = 1.0e-9;
 // true-unit tolerance, and the solve continues from its basis; at most this many rounds.
 inline constexpr double kTightenShare = 0.5;
 inline constexpr int kCleanupRounds = 3;
+// A solution within the tolerances is polished once: variables beyond this share of them (a basic
+// value beyond its bound, a reduced cost of the wrong sign) are held to it for one more pass, so
+// that large duals do not turn the slack the tolerances give into a visible objective error.
+inline constexpr double kPolishShare = 1.0e-3;
+// Phase 1 of the dual method: the box of a free variable in the auxiliary problem, and the number
+// of reduced costs of the wrong sign up to which a start shifts costs instead.
+inline constexpr double kFreeBox = 1000.0;
+inline constexpr int kFewWrongSigns = 0;
 // Refactorizations in a row without an iteration in between before exit 12.
 inline constexpr int kRefactorsInARow = 3;
 

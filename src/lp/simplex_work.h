@@ -34,6 +34,10 @@ struct SimplexSettings {
   int scale_option = 2;
   double scale_tol = 0.9;
   int factor_frequency = 100;
+  int expand_frequency = 10000;
+  int check_frequency = 60;
+  double unbounded_step = 1.0e10;
+  double unbounded_objective = 1.0e20;
   int iteration_limit = 10000;
   int log_frequency = 100;
   int summary_frequency = 100;
@@ -84,10 +88,25 @@ void restore_costs(SimplexState& s);
 void restore_bounds(SimplexState& s);
 double next_random(SimplexState& s);
 
-// The solution checked in true units, and the tolerances tightened where it falls short
-// (unscaled_check.cpp).
+// The solution checked in true units, and the tolerances tightened where it falls short or
+// widened where an infeasible verdict does not hold there (unscaled_check.cpp).
 void reset_tolerances(SimplexState& s, const SimplexSettings& settings);
-int tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings);
+struct TrueUnitCheck {
+  int primal = 0;  // variables whose working feasibility tolerance was cut
+  int dual = 0;    // and whose optimality tolerance was cut
+};
+TrueUnitCheck tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings);
+int polish_tolerances(SimplexState& s, const SimplexSettings& settings);
+bool loosen_to_true_units(SimplexState& s, const SimplexSettings& settings);
+
+// Anti-degeneracy by expanding tolerances (expand.cpp).
+void reset_expand(SimplexState& s);
+void advance_expand(SimplexState& s, const SimplexSettings& settings);
+bool expand_reset_due(const SimplexState& s, const SimplexSettings& settings);
+// The least share of a variable's tolerance that a step must move it by.
+double expand_increment(const SimplexSettings& settings);
+bool return_slipped_nonbasics(SimplexState& s);
+void shift_slipped_costs(SimplexState& s);
 
 // Pricing (pricing.cpp).
 void reset_primal_weights(SimplexState& s);
@@ -112,8 +131,11 @@ PrimalStep phase_one_ratio_test(SimplexState& s, int q, int direction, const Sim
 struct DualStep {
   int entering = -1;  // -1: no candidate, the problem is infeasible
   double dual_step = 0.0;
+  bool lengthened = false;  // the step is the least one the expanding tolerance allows
 };
-DualStep dual_ratio_test(SimplexState& s, double infeasibility, const SimplexSettings& settings);
+// `infeasibility` is the leaving variable's distance beyond the bound it leaves at, `tolerance` its
+// feasibility tolerance.
+DualStep dual_ratio_test(SimplexState& s, double infeasibility, double tolerance, const SimplexSettings& settings);
 
 // The two methods (primal_simplex.cpp, dual_simplex.cpp) and the quadratic objective
 // (reduced_gradient.cpp). Each returns an exit code.
@@ -121,6 +143,10 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units);
 // Starts from the phase 2 values of the current basis on valid factors, as the caller leaves them;
 // `dual_feasible` tells whether the caller found every reduced cost within its tolerance.
 int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, bool dual_feasible);
+// Phase 1 of the dual method: leaves a basis whose reduced costs have the signs the bounds ask for
+// wherever the problem allows it, with the phase 2 values, duals and reduced costs computed.
+int run_dual_phase_one(SimplexState& s, const SimplexSettings& settings, Units& units);
+void perturb_costs(SimplexState& s);
 int run_reduced_gradient(SimplexState& s, const SimplexSettings& settings, Units& units,
                          const Regularization& regularization);
 void evaluate_quadratic_gradient(SimplexState& s, const Regularization& regularization);

@@ -1,9 +1,10 @@
-// The solution of the scaled working problem checked in the problem's own units. A working value
+// The solution of the scaled working problem judged in the problem's own units. A working value
 // x' stands for scale * x' and a working reduced cost d' for d' / scale, so a tolerance met in
 // working units can hide a violation many times larger in true units (a cut row of a Benders
-// master whose columns carry large scales, costs scaled far below the optimality tolerance).
-// Offending variables get working tolerances that stand for the true-unit ones, and the caller
-// continues the solve from the current basis.
+// master whose columns carry large scales, costs scaled far below the optimality tolerance), and
+// a violation in working units can be far below the tolerance in true units (a row scaled up
+// from tiny coefficients). Offending variables get working tolerances that stand for the
+// true-unit ones, and the caller continues the solve from the current basis.
 #include <algorithm>
 #include <cmath>
 
@@ -37,16 +38,24 @@ double beyond_bounds(const SimplexState& s, int j, double x) {
   return std::max(0.0, std::max(s.lower[j] - x, x - s.upper[j]));
 }
 
-// Cuts the working feasibility tolerance of j, whose true violation exceeds the absolute
-// tolerance, when it also exceeds the share of the size of the numbers entering the value;
+// Working value of variable j as the check sees it: a row's activity comes from the columns.
+double checked_value(const SimplexState& s, int j) { return j < s.n ? s.x[j] : s.implied_row[j - s.n]; }
+
+// What a violation of j may reach in working units before it counts: the true-unit tolerance, or
+// the share of the size of the numbers entering the value when that is larger (round-off).
+double primal_allowance(const SimplexState& s, int j, double feasibility_tol) {
+  const double size = j < s.n ? std::fabs(s.x[j]) : activity_size(s, j - s.n);
+  return std::max(feasibility_tol / s.scale[j], kUnscaledRelative * size);
+}
+
+// Cuts the working feasibility tolerance of j when its true violation exceeds the allowance;
 // returns whether it did.
-bool tighten_primal(SimplexState& s, int j, double x, double feasibility_tol) {
-  const double violation = beyond_bounds(s, j, x) * s.scale[j];
-  const double size = j < s.n ? std::fabs(x) : activity_size(s, j - s.n);
-  const double tolerance = std::max(feasibility_tol, kUnscaledRelative * size * s.scale[j]);
-  if (violation <= tolerance) return false;
-  s.primal_tol[j] = std::min(s.primal_tol[j], std::max(kZeroTolerance, kTightenShare * tolerance / s.scale[j]));
-  s.tolerances_tightened = true;
+bool tighten_primal(SimplexState& s, int j, double feasibility_tol) {
+  const double violation = beyond_bounds(s, j, checked_value(s, j));
+  const double allowance = primal_allowance(s, j, feasibility_tol);
+  if (violation <= allowance) return false;
+  s.primal_tol[j] = std::min(s.primal_tol[j], std::max(kZeroTolerance, kTightenShare * allowance));
+  s.tolerances_changed = true;
   return true;
 }
 
@@ -61,12 +70,11 @@ double reduced_cost_size(const SimplexState& s, int j) {
 
 // The same for the reduced cost of nonbasic j (fresh from the duals of the final basis).
 bool tighten_dual(SimplexState& s, int j, double optimality_tol) {
-  const double violation = dual_infeasibility(s, j) / s.scale[j];  // 0 for a fixed variable
-  if (violation <= optimality_tol) return false;
-  const double tolerance = std::max(optimality_tol, kUnscaledRelative * reduced_cost_size(s, j) / s.scale[j]);
-  if (violation <= tolerance) return false;
-  s.dual_tol[j] = std::min(s.dual_tol[j], std::max(kZeroTolerance, kTightenShare * tolerance * s.scale[j]));
-  s.tolerances_tightened = true;
+  const double violation = dual_infeasibility(s, j);  // 0 for a fixed variable
+  const double allowance = std::max(optimality_tol * s.scale[j], kUnscaledRelative * reduced_cost_size(s, j));
+  if (violation <= allowance) return false;
+  s.dual_tol[j] = std::min(s.dual_tol[j], std::max(kZeroTolerance, kTightenShare * allowance));
+  s.tolerances_changed = true;
   return true;
 }
 
@@ -74,7 +82,7 @@ bool tighten_dual(SimplexState& s, int j, double optimality_tol) {
 
 void reset_tolerances(SimplexState& s, const SimplexSettings& settings) {
   const int nt = s.n + s.m;
-  if (!s.tolerances_tightened && s.tolerances_filled >= nt && s.filled_feasibility_tol == settings.feasibility_tol &&
+  if (!s.tolerances_changed && s.tolerances_filled >= nt && s.filled_feasibility_tol == settings.feasibility_tol &&
       s.filled_optimality_tol == settings.optimality_tol)
     return;
   std::fill(s.primal_tol.begin(), s.primal_tol.begin() + nt, settings.feasibility_tol);
@@ -82,32 +90,79 @@ void reset_tolerances(SimplexState& s, const SimplexSettings& settings) {
   s.tolerances_filled = nt;
   s.filled_feasibility_tol = settings.feasibility_tol;
   s.filled_optimality_tol = settings.optimality_tol;
-  s.tolerances_tightened = false;
+  s.tolerances_changed = false;
 }
 
 // Primal: basic columns against their bounds (nonbasic ones sit on theirs), every row's activity
 // from the column values against its limits. Dual: every nonbasic reduced cost (as the duals of
 // the final basis give it) against its variable's state. Each value is first screened against
-// the absolute tolerance alone, which is all a solution within tolerance costs. Returns the
-// number of variables whose tolerance was cut.
-int tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings) {
+// the absolute tolerance alone, which is all a solution within tolerance costs.
+TrueUnitCheck tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings) {
   const double ftol = settings.feasibility_tol;
   const double otol = settings.optimality_tol;
-  int offenders = 0;
+  TrueUnitCheck check;
   imply_rows(s);
   for (int p = 0; p < s.m; ++p) {
     const int j = s.head[p];
-    if (j < s.n && beyond_bounds(s, j, s.x[j]) * s.scale[j] > ftol) offenders += tighten_primal(s, j, s.x[j], ftol);
+    if (j < s.n && beyond_bounds(s, j, s.x[j]) * s.scale[j] > ftol) check.primal += tighten_primal(s, j, ftol);
   }
   for (int i = 0; i < s.m; ++i) {
     const int j = s.n + i;
-    const double x = s.implied_row[i];
-    if (beyond_bounds(s, j, x) * s.scale[j] > ftol) offenders += tighten_primal(s, j, x, ftol);
+    if (beyond_bounds(s, j, s.implied_row[i]) * s.scale[j] > ftol) check.primal += tighten_primal(s, j, ftol);
   }
   for (int j = 0; j < s.n + s.m; ++j) {
-    if (wrong_sign_part(s.state[j], s.d[j]) > otol * s.scale[j]) offenders += tighten_dual(s, j, otol);
+    if (wrong_sign_part(s.state[j], s.d[j]) > otol * s.scale[j]) check.dual += tighten_dual(s, j, otol);
   }
-  return offenders;
+  return check;
+}
+
+// Within its tolerance a basic variable may lie beyond a bound and a reduced cost may have the
+// wrong sign; the objective is then off by up to the tolerance times the dual (or the distance)
+// that goes with it, which for large duals is far more than round-off. Such variables are held to
+// a share of the tolerances for one more pass. Returns their number.
+int polish_tolerances(SimplexState& s, const SimplexSettings& settings) {
+  const double primal_level = kPolishShare * settings.feasibility_tol;
+  const double dual_level = kPolishShare * settings.optimality_tol;
+  int count = 0;
+  for (int p = 0; p < s.m; ++p) {
+    const int j = s.head[p];
+    const double violation = beyond_bounds(s, j, s.x[j]);
+    if (violation <= primal_level || violation <= kUnscaledRelative * std::fabs(s.x[j])) continue;
+    s.primal_tol[j] = std::min(s.primal_tol[j], primal_level);
+    ++count;
+  }
+  for (int j = 0; j < s.n + s.m; ++j) {
+    const double violation = dual_infeasibility(s, j);
+    if (violation <= dual_level || violation <= kUnscaledRelative * reduced_cost_size(s, j)) continue;
+    s.dual_tol[j] = std::min(s.dual_tol[j], dual_level);
+    ++count;
+  }
+  if (count > 0) s.tolerances_changed = true;
+  return count;
+}
+
+// An infeasible verdict stands only when some variable is infeasible in true units. When every
+// infeasibility of the final point is within the tolerance there, the working tolerances of the
+// infeasible variables widen to what stands for it; returns whether they did.
+bool loosen_to_true_units(SimplexState& s, const SimplexSettings& settings) {
+  const double ftol = settings.feasibility_tol;
+  imply_rows(s);
+  int loosened = 0;
+  for (int pass = 0; pass < 2; ++pass) {
+    for (int p = 0; p < s.m; ++p) {
+      const int j = s.head[p];
+      const double violation = beyond_bounds(s, j, checked_value(s, j));
+      if (violation <= s.primal_tol[j]) continue;
+      const double allowance = primal_allowance(s, j, ftol);
+      if (violation > allowance) return false;
+      if (pass == 1) {
+        s.primal_tol[j] = allowance;
+        ++loosened;
+      }
+    }
+  }
+  if (loosened > 0) s.tolerances_changed = true;
+  return loosened > 0;
 }
 
 }  // namespace tarvo::lp

@@ -1,0 +1,54 @@
+// Anti-degeneracy by expanding tolerances. The ratio tests let basic variables pass their bounds
+// (primal) and reduced costs pass zero (dual) by a share of each variable's own tolerance that
+// grows a little every iteration, and they take at least the step that this growth allows: no step
+// is zero, so the objective moves every iteration and a degenerate vertex cannot be cycled at.
+// Every EXPAND FREQUENCY iterations, and whenever the basis is factorized afresh, the share starts
+// again from its lower end and what slipped is cleaned up: nonbasic variables return to their
+// bounds exactly (the caller recomputes the basic ones) and reduced costs of the wrong sign are
+// shifted to zero (the shifts go when the solve ends).
+#include "lp/simplex_tolerances.h"
+#include "lp/simplex_work.h"
+
+namespace tarvo::lp {
+
+void reset_expand(SimplexState& s) {
+  s.expand_share = kExpandStart;
+  s.expand_count = 0;
+}
+
+double expand_increment(const SimplexSettings& settings) {
+  return (1.0 - kExpandStart) / settings.expand_frequency;
+}
+
+void advance_expand(SimplexState& s, const SimplexSettings& settings) {
+  s.expand_share += expand_increment(settings);
+  ++s.expand_count;
+}
+
+bool expand_reset_due(const SimplexState& s, const SimplexSettings& settings) {
+  return s.expand_count >= settings.expand_frequency;
+}
+
+// Returns true when a nonbasic variable had slipped off its bound.
+bool return_slipped_nonbasics(SimplexState& s) {
+  bool moved = false;
+  for (int j = 0; j < s.n + s.m; ++j) {
+    const signed char st = s.state[j];
+    if (st == kBasicVar || st == kSuperbasicVar) continue;
+    const double before = s.x[j];
+    place_nonbasic(s, j);
+    moved |= s.x[j] != before;
+  }
+  return moved;
+}
+
+void shift_slipped_costs(SimplexState& s) {
+  for (int j = 0; j < s.n + s.m; ++j) {
+    if (!(wrong_sign_part(s.state[j], s.d[j]) > 0.0) || s.lower[j] == s.upper[j]) continue;
+    s.cost[j] -= s.d[j];
+    s.d[j] = 0.0;
+    s.costs_shifted = true;
+  }
+}
+
+}  // namespace tarvo::lp
