@@ -39,7 +39,7 @@ void take_nonbasic_state(SimplexState& s, const ProblemSlot& slot, int j, int k)
   const int hs = slot.hs[k];
   if (hs == kSuperbasic) {
     s.state[j] = kSuperbasicVar;
-    s.x[j] = slot.xn[k] / s.scale[j];
+    s.x[j] = slot.xn[k] * s.inverse_scale[j];
   } else {
     s.state[j] = hs == kAtUpper ? kNonbasicUpper : kNonbasicLower;
   }
@@ -229,15 +229,6 @@ int count_dual_infeasible(const SimplexState& s) {
   for (int j = 0; j < s.n + s.m; ++j)
     count += wrong_sign_part(s.state[j], s.d[j]) > s.dual_tol[j] && s.lower[j] != s.upper[j];
   return count;
-}
-
-double max_dual_infeasibility(const SimplexState& s) {
-  double worst = 0.0;
-  for (int j = 0; j < s.n + s.m; ++j) {
-    const double wrong = wrong_sign_part(s.state[j], s.d[j]);
-    if (wrong > worst && s.lower[j] != s.upper[j]) worst = wrong;
-  }
-  return worst;
 }
 
 double working_objective(const SimplexState& s) {

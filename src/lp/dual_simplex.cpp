@@ -192,7 +192,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
     s.dj_last = s.d[leaving];
     log_iteration(s, settings, units);
 
-    degenerate = step.lengthened ? degenerate + 1 : 0;
+    degenerate = step.degenerate ? degenerate + 1 : 0;
     if (degenerate == kStallBeforePerturb) perturb_costs(s);
     if (degenerate >= stall_limit) {
       s.stall_count = degenerate;

@@ -94,13 +94,16 @@ void reset_dual_weights(SimplexState& s) {
   s.dual_weights_valid = true;
 }
 
-// The basic variable with the largest infeasibility^2 / ||e_r^T B^-1||^2.
+// The basic variable with the largest infeasibility^2 / ||e_r^T B^-1||^2. The screen against the
+// tolerance is one comparison per row: few rows are infeasible.
 int choose_leaving(SimplexState& s) {
   int best = -1;
   double best_score = 0.0;
   for (int p = 0; p < s.m; ++p) {
-    const double v = primal_infeasibility(s, s.head[p]);
-    if (v == 0.0) continue;
+    const int j = s.head[p];
+    const double x = s.x[j];
+    const double v = std::max(s.lower[j] - x, x - s.upper[j]);
+    if (!(v > s.primal_tol[j])) continue;
     const double score = v * v / s.dual_weight[p];
     if (score > best_score) {
       best_score = score;

@@ -13,8 +13,13 @@ namespace {
 
 constexpr double kInf = std::numeric_limits<double>::infinity();
 
-double working_lower(double bound, double scale) { return bound <= -kInfiniteBound ? -kInf : bound / scale; }
-double working_upper(double bound, double scale) { return bound >= kInfiniteBound ? kInf : bound / scale; }
+// Scales are powers of 2, so multiplying by the inverse is exact.
+double working_lower(double bound, double inverse_scale) {
+  return bound <= -kInfiniteBound ? -kInf : bound * inverse_scale;
+}
+double working_upper(double bound, double inverse_scale) {
+  return bound >= kInfiniteBound ? kInf : bound * inverse_scale;
+}
 
 int objective_row_of(const ProblemSlot& slot) { return slot.iobj >= 1 && slot.iobj <= slot.m ? slot.iobj : 0; }
 
@@ -126,8 +131,8 @@ bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const Simpl
   const bool costs_changed = !std::equal(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
   std::copy(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
   const auto load_bounds = [&s, &slot](int j, int k) {
-    s.lower[j] = s.base_lower[j] = working_lower(slot.bl[k], s.scale[j]);
-    s.upper[j] = s.base_upper[j] = working_upper(slot.bu[k], s.scale[j]);
+    s.lower[j] = s.base_lower[j] = working_lower(slot.bl[k], s.inverse_scale[j]);
+    s.upper[j] = s.base_upper[j] = working_upper(slot.bu[k], s.inverse_scale[j]);
   };
   for (int j = 0; j < s.n; ++j) load_bounds(j, j + 1);
   for (int i = 0; i < s.m; ++i) load_bounds(s.n + i, slot.n + s.slot_row[i]);
@@ -159,8 +164,8 @@ void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_dua
     const double value = value_of(j, k);
     slot.hs[k] = kSlotState[s.state[j]];
     slot.xn[k] = value;
-    slot.rc[k] = sense * s.d[j] / s.scale[j];
-    if (s.base_cost[j] != 0.0) activity += s.sense * s.base_cost[j] / s.scale[j] * value;
+    slot.rc[k] = sense * s.d[j] * s.inverse_scale[j];
+    if (s.base_cost[j] != 0.0) activity += s.sense * s.base_cost[j] * s.inverse_scale[j] * value;
     superbasics += s.state[j] == kSuperbasicVar;
   }
   for (int i = 0; i < s.m; ++i) {
@@ -168,7 +173,7 @@ void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_dua
     const int k = slot.n + s.slot_row[i];
     slot.hs[k] = kSlotState[s.state[j]];
     slot.xn[k] = value_of(j, k);
-    slot.pi[s.slot_row[i]] = sense * s.y[i] / s.scale[j];
+    slot.pi[s.slot_row[i]] = sense * s.y[i] * s.inverse_scale[j];
     superbasics += s.state[j] == kSuperbasicVar;
   }
   if (s.objective_row > 0) {

@@ -54,17 +54,14 @@ void take_least_step(const SimplexState& s, PrimalStep& out, int direction, cons
   out.leaving_value = s.x[j] - direction * a * least;
 }
 
-// The entering variable's reduced cost is shifted, when its slack is below the growth of the
-// working tolerance, so that the dual step is at least that growth over the pivot.
-// The slack is d_q where d_q must stay >= 0, and -d_q where it must stay <= 0. Returns whether the
-// step was lengthened.
-bool take_least_dual_step(SimplexState& s, int q, double slack, bool slack_is_d, const SimplexSettings& settings) {
-  const double least = expand_increment(settings) * s.dual_tol[q];
-  if (slack >= least) return false;
-  const double shift = slack_is_d ? least - slack : slack - least;
-  s.cost[q] += shift;
-  s.d[q] += shift;
-  s.costs_shifted = true;
+// A reduced cost of the wrong sign for its entering variable (within the working tolerance) is
+// shifted to zero: the step would move the leaving variable the wrong way. Returns whether the
+// dual step is zero.
+bool zero_wrong_sign(SimplexState& s, int q, double slack) {
+  if (slack > 0.0) return false;
+  s.cost[q] -= s.d[q];
+  s.d[q] = 0.0;
+  if (slack < 0.0) s.costs_shifted = true;
   return true;
 }
 
@@ -263,7 +260,7 @@ DualStep dual_ratio_test(SimplexState& s, double infeasibility, double tolerance
     }
     // Flips that bring the leaving variable within its tolerance leave it to the entering one.
     if (must_enter || slope - slope_drop <= tolerance) {
-      out.lengthened = take_least_dual_step(s, best, best_slack, sign * s.pivot_row[best] < 0.0, settings);
+      out.degenerate = zero_wrong_sign(s, best, best_slack);
       out.entering = best;
       out.dual_step = s.d[best] / s.pivot_row[best];
       return out;

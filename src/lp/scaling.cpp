@@ -114,6 +114,7 @@ void compute_scales(SimplexState& s, const SimplexSettings& settings) {
   }
   for (int j = 0; j < s.n; ++j) s.scale[j] = power_of_two(col[j]);
   for (int i = 0; i < s.m; ++i) s.scale[s.n + i] = 1.0 / power_of_two(row[i]);
+  for (int j = 0; j < s.n + s.m; ++j) s.inverse_scale[j] = 1.0 / s.scale[j];
 }
 
 }  // namespace tarvo::lp

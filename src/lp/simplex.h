@@ -87,7 +87,8 @@ struct SimplexState {
   std::vector<double> upper;
   std::vector<double> base_lower;  // [n + m] scaled bounds as given
   std::vector<double> base_upper;
-  std::vector<double> scale;    // [n + m] true value = scale * working value
+  std::vector<double> scale;    // [n + m] true value = scale * working value (a power of 2)
+  std::vector<double> inverse_scale;  // [n + m] 1 / scale, exactly
   std::vector<double> col_scale_work;  // [n] scratch for the scaling passes
   std::vector<double> row_scale_work;  // [m]
   std::vector<double> row_min_work;    // [m]

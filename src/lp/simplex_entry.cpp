@@ -85,8 +85,9 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
   // True while x_B, y and d are those of the phase 2 objective at the current basis and costs;
   // then the final values need not be computed again.
   bool values_fresh = false;
+  bool primal_current = false;  // x_B belongs to the bounds in use (costs do not move it)
   for (int round = 0; round < 4; ++round) {
-    compute_primal_values(s);
+    if (!primal_current) compute_primal_values(s);
     measure_infeasibility(s);
     s.phase = 2;
     if (round > 0 || !s.duals_current) {
@@ -118,8 +119,9 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     if (code != kExitOptimal) break;
     if (!s.costs_shifted && !s.bounds_perturbed) break;
     values_fresh = false;
-    restore_costs(s);
-    restore_bounds(s);
+    primal_current = !s.bounds_perturbed;
+    if (s.costs_shifted) restore_costs(s);
+    if (s.bounds_perturbed) restore_bounds(s);
   }
   if (s.costs_shifted) restore_costs(s);
   if (s.bounds_perturbed) restore_bounds(s);
@@ -168,17 +170,17 @@ int solve_to_true_tolerances(SimplexState& s, const SimplexSettings& settings, U
   reset_tolerances(s, settings);
   int code = solve_from_basis(s, settings, units, regularization, cold);
   bool polished = s.quadratic;
-  for (int round = 0; round < kCleanupRounds && s.factors_valid; ++round) {
-    if (code == kExitOptimal) {
-      const TrueUnitCheck check = tighten_unscaled_violations(s, settings);
-      if (check.primal + check.dual > 0) {
-        s.factors_valid = false;
-      } else if (polished || polish_tolerances(s, settings) == 0) {
-        break;
-      } else {
-        polished = true;
-      }
-    } else if (code != kExitInfeasible || !loosen_to_true_units(s, settings)) {
+  double worst_dual = 0.0;
+  for (int round = 0;; ++round) {
+    const bool last = round == kCleanupRounds;
+    if (code == kExitOptimal && s.factors_valid) {
+      const TrueUnitCheck check = tighten_unscaled_violations(s, settings, !polished && !last);
+      worst_dual = check.worst_dual;
+      if (check.primal > 0 && last) return kExitNumerical;
+      if (check.primal + check.dual + check.polish == 0 || last) break;
+      if (check.primal + check.dual > 0) s.factors_valid = false;
+      polished = true;
+    } else if (last || code != kExitInfeasible || !s.factors_valid || !loosen_to_true_units(s, settings)) {
       break;
     }
     ++s.counters.cleanup_rounds;
@@ -186,9 +188,12 @@ int solve_to_true_tolerances(SimplexState& s, const SimplexSettings& settings, U
     clear_rejections(s);
     code = solve_from_basis(s, settings, units, regularization, false);
   }
-  if (code == kExitOptimal && s.factors_valid && tighten_unscaled_violations(s, settings).primal > 0)
-    code = kExitNumerical;
-  return code;
+  if (code != kExitOptimal) return code;
+  // Optimal or near-optimal: the largest reduced gradient against the size of the duals.
+  double reference = 1.0;
+  for (int i = 0; i < s.m; ++i) reference = std::max(reference, std::fabs(s.y[i]));
+  s.optimality_ratio = worst_dual / reference;
+  return s.optimality_ratio < kNearOptimalRatio ? kExitOptimal : kExitNearOptimal;
 }
 
 int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settings, Units& units, StartMode mode,
@@ -220,12 +225,7 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   clear_rejections(s);
   const int code = solve_to_true_tolerances(s, settings, units, regularization, mode.kind == StartKind::cold);
   store_solution(s, slot, code == kExitInfeasible);
-  if (code != kExitOptimal) return code;
-  // Optimal or near-optimal: the largest reduced gradient against the size of the duals.
-  double reference = 1.0;
-  for (int i = 0; i < s.m; ++i) reference = std::max(reference, std::fabs(s.y[i]));
-  s.optimality_ratio = max_dual_infeasibility(s) / reference;
-  return s.optimality_ratio < kNearOptimalRatio ? kExitOptimal : kExitNearOptimal;
+  return code;
 }
 
 }  // namespace
@@ -243,11 +243,13 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.row_start.assign(mmax + 1, 0);
   s.col_index.assign(nemax, 0);
   s.row_value.assign(nemax, 0.0);
-  for (auto* v : {&s.cost, &s.base_cost, &s.lower, &s.upper, &s.base_lower, &s.base_upper, &s.scale, &s.x, &s.d,
+  for (auto* v : {&s.cost, &s.base_cost, &s.lower, &s.upper, &s.base_lower, &s.base_upper, &s.scale,
+                  &s.inverse_scale, &s.x, &s.d,
                   &s.primal_weight, &s.primal_tol, &s.dual_tol, &s.pivot_row, &s.candidate_ratio, &s.hessian_diag,
                   &s.centre, &s.search})
     v->assign(nt, 0.0);
   std::fill(s.scale.begin(), s.scale.end(), 1.0);
+  std::fill(s.inverse_scale.begin(), s.inverse_scale.end(), 1.0);
   s.col_scale_work.assign(nmax, 1.0);
   s.row_scale_work.assign(mmax, 1.0);
   s.row_min_work.assign(mmax, 0.0);

@@ -76,7 +76,6 @@ bool set_basic_costs(SimplexState& s);
 void compute_duals(SimplexState& s);
 void measure_infeasibility(SimplexState& s);
 int count_dual_infeasible(const SimplexState& s);
-double max_dual_infeasibility(const SimplexState& s);
 double working_objective(const SimplexState& s);
 void load_column(const SimplexState& s, int j, SparseVector& v);
 void load_unit_row(SimplexState& s, int r);
@@ -94,9 +93,10 @@ void reset_tolerances(SimplexState& s, const SimplexSettings& settings);
 struct TrueUnitCheck {
   int primal = 0;  // variables whose working feasibility tolerance was cut
   int dual = 0;    // and whose optimality tolerance was cut
+  int polish = 0;  // variables within the tolerances held to a share of them
+  double worst_dual = 0.0;  // the largest reduced cost of the wrong sign, in working units
 };
-TrueUnitCheck tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings);
-int polish_tolerances(SimplexState& s, const SimplexSettings& settings);
+TrueUnitCheck tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings, bool polish);
 bool loosen_to_true_units(SimplexState& s, const SimplexSettings& settings);
 
 // Anti-degeneracy by expanding tolerances (expand.cpp).
@@ -131,7 +131,7 @@ PrimalStep phase_one_ratio_test(SimplexState& s, int q, int direction, const Sim
 struct DualStep {
   int entering = -1;  // -1: no candidate, the problem is infeasible
   double dual_step = 0.0;
-  bool lengthened = false;  // the step is the least one the expanding tolerance allows
+  bool degenerate = false;  // the dual step is zero
 };
 // `infeasibility` is the leaving variable's distance beyond the bound it leaves at, `tolerance` its
 // feasibility tolerance.

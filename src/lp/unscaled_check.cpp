@@ -96,49 +96,54 @@ void reset_tolerances(SimplexState& s, const SimplexSettings& settings) {
 // Primal: basic columns against their bounds (nonbasic ones sit on theirs), every row's activity
 // from the column values against its limits. Dual: every nonbasic reduced cost (as the duals of
 // the final basis give it) against its variable's state. Each value is first screened against
-// the absolute tolerance alone, which is all a solution within tolerance costs.
-TrueUnitCheck tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings) {
+// the absolute tolerances alone, which is all a solution within tolerance costs.
+//
+// With `polish`, a solution within the tolerances is also looked at more closely: a basic value
+// beyond its bound or a reduced cost of the wrong sign puts the objective off by up to the
+// tolerance times the dual (or the distance) that goes with it, which for large duals is far more
+// than round-off; such variables are held to a share of the tolerances for one more pass.
+TrueUnitCheck tighten_unscaled_violations(SimplexState& s, const SimplexSettings& settings, bool polish) {
   const double ftol = settings.feasibility_tol;
   const double otol = settings.optimality_tol;
+  const double primal_level = polish ? kPolishShare * ftol : HUGE_VAL;
+  const double dual_level = polish ? kPolishShare * otol : HUGE_VAL;
   TrueUnitCheck check;
   imply_rows(s);
+  // Held to the polish level when beyond it and beyond round-off.
+  const auto polish_primal = [&](int j, double violation, double size) {
+    if (violation <= primal_level || violation <= kUnscaledRelative * size) return;
+    s.primal_tol[j] = std::min(s.primal_tol[j], primal_level);
+    ++check.polish;
+  };
   for (int p = 0; p < s.m; ++p) {
     const int j = s.head[p];
-    if (j < s.n && beyond_bounds(s, j, s.x[j]) * s.scale[j] > ftol) check.primal += tighten_primal(s, j, ftol);
+    if (j >= s.n) continue;
+    const double violation = beyond_bounds(s, j, s.x[j]);
+    if (violation * s.scale[j] > ftol && tighten_primal(s, j, ftol)) ++check.primal;
+    else if (violation > 0.0) polish_primal(j, violation, std::fabs(s.x[j]));
   }
   for (int i = 0; i < s.m; ++i) {
     const int j = s.n + i;
-    if (beyond_bounds(s, j, s.implied_row[i]) * s.scale[j] > ftol) check.primal += tighten_primal(s, j, ftol);
+    const double violation = beyond_bounds(s, j, s.implied_row[i]);
+    if (violation * s.scale[j] > ftol && tighten_primal(s, j, ftol)) ++check.primal;
+    else if (violation > 0.0 && s.state[j] == kBasicVar) polish_primal(j, violation, activity_size(s, i));
   }
   for (int j = 0; j < s.n + s.m; ++j) {
-    if (wrong_sign_part(s.state[j], s.d[j]) > otol * s.scale[j]) check.dual += tighten_dual(s, j, otol);
+    const double wrong = wrong_sign_part(s.state[j], s.d[j]);
+    if (!(wrong > std::min(otol * s.scale[j], dual_level)) || s.lower[j] == s.upper[j]) {
+      if (wrong > check.worst_dual && s.lower[j] != s.upper[j]) check.worst_dual = wrong;
+      continue;
+    }
+    check.worst_dual = std::max(check.worst_dual, wrong);
+    if (wrong > otol * s.scale[j] && tighten_dual(s, j, otol)) {
+      ++check.dual;
+    } else if (wrong > dual_level && wrong > kUnscaledRelative * reduced_cost_size(s, j)) {
+      s.dual_tol[j] = std::min(s.dual_tol[j], dual_level);
+      ++check.polish;
+    }
   }
+  if (check.polish > 0) s.tolerances_changed = true;
   return check;
-}
-
-// Within its tolerance a basic variable may lie beyond a bound and a reduced cost may have the
-// wrong sign; the objective is then off by up to the tolerance times the dual (or the distance)
-// that goes with it, which for large duals is far more than round-off. Such variables are held to
-// a share of the tolerances for one more pass. Returns their number.
-int polish_tolerances(SimplexState& s, const SimplexSettings& settings) {
-  const double primal_level = kPolishShare * settings.feasibility_tol;
-  const double dual_level = kPolishShare * settings.optimality_tol;
-  int count = 0;
-  for (int p = 0; p < s.m; ++p) {
-    const int j = s.head[p];
-    const double violation = beyond_bounds(s, j, s.x[j]);
-    if (violation <= primal_level || violation <= kUnscaledRelative * std::fabs(s.x[j])) continue;
-    s.primal_tol[j] = std::min(s.primal_tol[j], primal_level);
-    ++count;
-  }
-  for (int j = 0; j < s.n + s.m; ++j) {
-    const double violation = dual_infeasibility(s, j);
-    if (violation <= dual_level || violation <= kUnscaledRelative * reduced_cost_size(s, j)) continue;
-    s.dual_tol[j] = std::min(s.dual_tol[j], dual_level);
-    ++count;
-  }
-  if (count > 0) s.tolerances_changed = true;
-  return count;
 }
 
 // An infeasible verdict stands only when some variable is infeasible in true units. When every
