@@ -95,6 +95,7 @@ bool keep_basis_from_slot(SimplexState& s, const ProblemSlot& slot) {
 
 int factorize_basis(SimplexState& s, const SimplexSettings& settings, Units& units) {
   s.lu_settings = settings.lu;
+  s.lu_settings.factor_tol = s.factor_tol;
   s.lu_settings.max_updates = settings.factor_frequency;
   std::copy(s.head.begin(), s.head.begin() + s.m, s.saved_head.begin());
   const LuStatus status = lu_factorize(s.lu, s.m, s.n, s.col_start.data(), s.row_index.data(),
@@ -301,13 +302,30 @@ void swap_basic(SimplexState& s, int r, int q, int leaving_state, double leaving
 
 // Replaces the factors' column in position r by the column last transformed with keep_spike.
 // Returns false when the factors must be recomputed before the next iteration.
-bool update_factors(SimplexState& s, int r) {
+bool update_factors(SimplexState& s, int r, const SimplexSettings& settings, Units& units) {
   ++s.updates;
   const LuStatus status = lu_update(s.lu, r, s.lu_settings);
   if (status != LuStatus::ok) {
+    if (lu_last_refusal(s.lu) == LuRefusal::singular) write_replace_singular(r + 1, settings, units);
     s.refactor_due = true;
     return false;
   }
+  return true;
+}
+
+bool pivot_agrees(double from_row, double from_column) {
+  return std::fabs(from_row - from_column) <= kPivotMismatch * (1.0 + std::fabs(from_column));
+}
+
+bool refactor_for_accuracy(SimplexState& s, const SimplexSettings& settings, Units& units) {
+  if (s.updates > 0) {
+    s.refactor_due = true;
+    return true;
+  }
+  if (s.factor_tol <= kLeastFactorTol) return false;
+  s.factor_tol = std::max(kLeastFactorTol, s.factor_tol / kFactorTolReduction);
+  write_factor_tol_reduced(s.factor_tol, settings, units);
+  s.refactor_due = true;
   return true;
 }
 

@@ -116,6 +116,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
   bool fresh = true;
   int degenerate = 0;
   int refactors_in_a_row = 0;
+  int cleared_at = -1;  // iteration count at which rows set aside were last cleared
   const int stall_limit = kStallLimitBase + 2 * s.m;
 
   while (true) {
@@ -135,7 +136,16 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
         fresh = true;
         continue;
       }
-      return kExitOptimal;
+      if (!s.candidates_rejected) return kExitOptimal;
+      // Rows set aside because their pivots stayed inaccurate get one more look; when they are
+      // all that is left infeasible, the constraints cannot be met accurately.
+      if (cleared_at == s.counters.iterations) {
+        measure_infeasibility(s);
+        return s.ninf > 0 ? kExitNumerical : kExitOptimal;
+      }
+      clear_rejections(s);
+      cleared_at = s.counters.iterations;
+      continue;
     }
     if (s.counters.iterations >= settings.iteration_limit) return kExitIterations;
 
@@ -157,8 +167,8 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
     load_column(s, q, s.column);
     lu_ftran(s.lu, s.column, true);
     const double pivot = s.column.value[r];
-    if (std::fabs(s.pivot_row[q] - pivot) > kPivotMismatch * (1.0 + std::fabs(pivot))) {
-      s.refactor_due = true;
+    if (!pivot_agrees(s.pivot_row[q], pivot)) {
+      if (!refactor_for_accuracy(s, settings, units)) set_aside(s, leaving, s.counters.iterations + kRejectIterations);
       continue;
     }
     const double dual_step = s.d[q] / pivot;
@@ -183,7 +193,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
     update_dual_weights(s, r, pivot);
     update_reduced_costs(s, q, r, dual_step);
     swap_basic(s, r, q, bound == s.lower[leaving] ? kNonbasicLower : kNonbasicUpper, bound);
-    update_factors(s, r);
+    update_factors(s, r, settings, units);
     refactors_in_a_row = 0;
     fresh = false;
     advance_expand(s, settings);

@@ -103,7 +103,7 @@ int choose_leaving(SimplexState& s) {
     const int j = s.head[p];
     const double x = s.x[j];
     const double v = std::max(s.lower[j] - x, x - s.upper[j]);
-    if (!(v > s.primal_tol[j])) continue;
+    if (!(v > s.primal_tol[j]) || s.rejected[j] > s.counters.iterations) continue;
     const double score = v * v / s.dual_weight[p];
     if (score > best_score) {
       best_score = score;

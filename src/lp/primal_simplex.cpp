@@ -90,6 +90,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
   Progress progress;
   double objective = current_objective(s);
   int refactors_in_a_row = 0;
+  int cleared_at = -1;  // iteration count at which candidates set aside were last cleared
   const int stall_limit = kStallLimitBase + 2 * s.m;
 
   while (true) {
@@ -109,6 +110,12 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     }
     const int q = choose_entering(s, settings);
     if (q < 0) {
+      // Candidates set aside may hide what the pricing would find: they get one more look.
+      if (s.candidates_rejected && cleared_at != s.counters.iterations) {
+        clear_rejections(s);
+        cleared_at = s.counters.iterations;
+        continue;
+      }
       // The point must hold with every nonbasic variable on its bound.
       if (return_slipped_nonbasics(s)) fresh = false;
       if (!fresh) {
@@ -128,7 +135,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     const PrimalStep step = s.phase == 1 ? phase_one_ratio_test(s, q, direction, settings)
                                          : primal_ratio_test(s, q, direction, settings);
     if (step.rejected) {
-      reject_entering(s, q, s.counters.iterations + 1);
+      set_aside(s, q, s.counters.iterations + 1);
       continue;
     }
     if (step.unbounded) {
@@ -155,8 +162,8 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       load_unit_row(s, r);
       lu_btran(s.lu, s.rho);
       compute_pivot_row(s);
-      if (std::fabs(s.pivot_row[q] - pivot) > kPivotMismatch * (1.0 + std::fabs(pivot))) {
-        s.refactor_due = true;
+      if (!pivot_agrees(s.pivot_row[q], pivot)) {
+        if (!refactor_for_accuracy(s, settings, units)) set_aside(s, q, s.counters.iterations + kRejectIterations);
         continue;
       }
       s.x[q] += delta;
@@ -164,7 +171,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       update_primal_weights(s, q, r, pivot);
       update_reduced_costs(s, q, r, s.d[q] / pivot);
       swap_basic(s, r, q, step.leaving_state, step.leaving_value);
-      update_factors(s, r);
+      update_factors(s, r, settings, units);
     }
     refactors_in_a_row = 0;
     fresh = false;

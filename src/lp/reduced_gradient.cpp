@@ -172,7 +172,8 @@ double longest_step(const SimplexState& s, int& blocking) {
 }
 
 // A basic variable at a bound leaves for the superbasic with the largest entry in its row of W.
-bool exchange_with_superbasic(SimplexState& s, int r, int leaving_state, double value) {
+bool exchange_with_superbasic(SimplexState& s, int r, int leaving_state, double value, const SimplexSettings& settings,
+                              Units& units) {
   const int ns = s.superbasic_count;
   const double* w = s.basic_moves.data() + static_cast<std::size_t>(r) * ns;
   int best = -1;
@@ -183,7 +184,7 @@ bool exchange_with_superbasic(SimplexState& s, int r, int leaving_state, double 
   load_column(s, q, s.column);
   lu_ftran(s.lu, s.column, true);
   swap_basic(s, r, q, leaving_state, value);
-  update_factors(s, r);
+  update_factors(s, r, settings, units);
   return true;
 }
 
@@ -243,7 +244,7 @@ int run_reduced_gradient(SimplexState& s, const SimplexSettings& settings, Units
       if (s.state[blocking] == kSuperbasicVar) {
         s.state[blocking] = static_cast<signed char>(leaving_state);
         s.x[blocking] = value;
-      } else if (!exchange_with_superbasic(s, s.position[blocking], leaving_state, value)) {
+      } else if (!exchange_with_superbasic(s, s.position[blocking], leaving_state, value, settings, units)) {
         return kExitNumerical;
       }
       collect_superbasics(s);

@@ -135,6 +135,9 @@ struct SimplexState {
   // Factors of the basis.
   LuFactors lu;
   LuSettings lu_settings;
+  // LU factor tolerance in force: the option's, lowered for the rest of the solve when fresh
+  // factors prove inaccurate.
+  double factor_tol = 100.0;
   LuReport lu_report;
   bool factors_valid = false;
   // y and d are the phase 2 duals of the current basis and costs, as the last optimal solve

@@ -202,6 +202,7 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   s.log_header_written = false;
   s.partial_start = 0;
   s.stall_count = 0;
+  s.factor_tol = settings.lu.factor_tol;
   s.objadd = slot.objadd;
   const bool matrix_kept = slot_matrix_unchanged(s, slot, settings.scale_option);
   if (!matrix_kept) {

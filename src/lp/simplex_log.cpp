@@ -141,16 +141,27 @@ void write_start_not_recognized(std::string_view word, const SimplexSettings& se
   write_both(units, settings, " XXX Start parameter not recognized:  " + std::string(word));
 }
 
+void write_factor_tol_reduced(double factor_tol, const SimplexSettings& settings, Units& units) {
+  if (settings.print_unit <= 0) return;
+  char text[32];
+  std::snprintf(text, sizeof text, "%10.2f", factor_tol);
+  write_line(units, settings.print_unit, "");
+  write_line(units, settings.print_unit, std::string(" LU Factor tol reduced to") + text);
+}
+
+void write_replace_singular(int position, const SimplexSettings& settings, Units& units) {
+  if (settings.print_unit <= 0) return;
+  write_line(units, settings.print_unit,
+             std::string(" LU replace  warning.  Singularity after replacing column.") + " jrep =" +
+                 int_field(position, 8));
+}
+
 // The factorization's own events, in its words, on the print file.
 void write_factor_events(const LuReport& report, double factor_tol, int m, const SimplexSettings& settings,
                          Units& units) {
   if (settings.print_unit <= 0) return;
-  if (report.factor_tol_used > 0.0 && report.factor_tol_used < factor_tol) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%10.2f", report.factor_tol_used);
-    write_line(units, settings.print_unit, "");
-    write_line(units, settings.print_unit, std::string(" LU Factor tol reduced to") + text);
-  }
+  if (report.factor_tol_used > 0.0 && report.factor_tol_used < factor_tol)
+    write_factor_tol_reduced(report.factor_tol_used, settings, units);
   if (report.rank < m) {
     write_line(units, settings.print_unit,
                std::string(" LU check  warning.  The matrix appears to be singular.") + " nrank =" +

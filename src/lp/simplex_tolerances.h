@@ -63,6 +63,13 @@ inline constexpr double kPolishShare = 1.0e-3;
 // of reduced costs of the wrong sign up to which a start shifts costs instead.
 inline constexpr double kFreeBox = 1000.0;
 inline constexpr int kFewWrongSigns = 0;
+// Fresh factors whose pivots disagree are recomputed with the factor tolerance divided by this,
+// down to the least value.
+inline constexpr double kFactorTolReduction = 10.0;
+inline constexpr double kLeastFactorTol = 2.0;
+// Iterations for which a variable whose pivot stays inaccurate on the most stable factors is
+// passed over.
+inline constexpr int kRejectIterations = 20;
 // Refactorizations in a row without an iteration in between before exit 12.
 inline constexpr int kRefactorsInARow = 3;
 

@@ -81,7 +81,12 @@ void load_column(const SimplexState& s, int j, SparseVector& v);
 void load_unit_row(SimplexState& s, int r);
 void compute_pivot_row(SimplexState& s);
 void swap_basic(SimplexState& s, int r, int q, int leaving_state, double leaving_value);
-bool update_factors(SimplexState& s, int r);
+bool update_factors(SimplexState& s, int r, const SimplexSettings& settings, Units& units);
+// The row and the column of a pivot must agree; when they do not, the factors are recomputed, with
+// a lower factor tolerance when they were fresh already. Returns false when the tolerance cannot
+// be lowered further: the pivot is then to be avoided instead.
+bool pivot_agrees(double from_row, double from_column);
+bool refactor_for_accuracy(SimplexState& s, const SimplexSettings& settings, Units& units);
 void update_reduced_costs(SimplexState& s, int q, int r, double dual_step);
 void restore_costs(SimplexState& s);
 void restore_bounds(SimplexState& s);
@@ -160,13 +165,16 @@ void write_final_summary(const SimplexState& s, const ProblemSlot& slot,
 void write_start_not_recognized(std::string_view word, const SimplexSettings& settings, Units& units);
 void write_factor_events(const LuReport& report, double factor_tol, int m,
                          const SimplexSettings& settings, Units& units);
+void write_factor_tol_reduced(double factor_tol, const SimplexSettings& settings, Units& units);
+void write_replace_singular(int position, const SimplexSettings& settings, Units& units);
 
 inline bool is_boxed(const SimplexState& s, int j) {
   return std::isfinite(s.lower[j]) && std::isfinite(s.upper[j]);
 }
 
-// Variable j may not enter before the iteration count reaches `until`.
-inline void reject_entering(SimplexState& s, int j, int until) {
+// Variable j is no candidate (to enter, or in the dual to leave) before the iteration count
+// reaches `until`.
+inline void set_aside(SimplexState& s, int j, int until) {
   s.rejected[j] = until;
   s.candidates_rejected = true;
 }
