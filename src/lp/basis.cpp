@@ -211,6 +211,25 @@ void compute_duals(SimplexState& s) {
   }
 }
 
+// Whether [A I] x = 0 holds to kRowResidualTol relative to the largest |x_j|: updates of the basic
+// values drift from it as the factors age.
+bool rows_hold(SimplexState& s) {
+  std::fill(s.implied_row.begin(), s.implied_row.begin() + s.m, 0.0);
+  double largest = 1.0;
+  for (int j = 0; j < s.n; ++j) {
+    const double xj = s.x[j];
+    if (xj == 0.0) continue;
+    largest = std::max(largest, std::fabs(xj));
+    for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k) s.implied_row[s.row_index[k]] += s.value[k] * xj;
+  }
+  double worst = 0.0;
+  for (int i = 0; i < s.m; ++i) {
+    largest = std::max(largest, std::fabs(s.x[s.n + i]));
+    worst = std::max(worst, std::fabs(s.implied_row[i] + s.x[s.n + i]));
+  }
+  return worst <= kRowResidualTol * largest;
+}
+
 void measure_infeasibility(SimplexState& s) {
   s.ninf = 0;
   s.sinf = 0.0;

@@ -129,6 +129,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
       reset_expand(s);
       shift_slipped_costs(s);
     }
+    if (check_due(s, settings)) continue;
     const int r = choose_leaving(s);
     if (r < 0) {
       if (!fresh) {

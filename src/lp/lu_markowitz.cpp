@@ -274,6 +274,7 @@ bool markowitz_search(LuBuild& b, double factor_tol, double singularity_tol, int
 }  // namespace
 
 void lu_factor_nucleus(LuFactors& lu, double factor_tol, const LuSettings& settings) {
+  if (lu.m == 0) return;  // nothing to eliminate (and no count lists to read)
   LuBuild& b = lu.build;
   init_lists(b, lu.m);
   const double singularity_tol = settings.singularity_tol;

@@ -108,6 +108,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
         fresh = true;
       }
     }
+    if (check_due(s, settings)) continue;
     const int q = choose_entering(s, settings);
     if (q < 0) {
       // Candidates set aside may hide what the pricing would find: they get one more look.
@@ -138,7 +139,10 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       set_aside(s, q, s.counters.iterations + 1);
       continue;
     }
-    if (step.unbounded) {
+    // In phase 2 a step beyond UNBOUNDED STEP SIZE (in the entering variable's own units) counts
+    // as no limit at all.
+    const bool unbounded = step.unbounded || (s.phase == 2 && step.step * s.scale[q] > settings.unbounded_step);
+    if (unbounded) {
       if (!fresh || s.phase == 1) {
         if (s.phase == 1 && fresh) return kExitNumerical;
         s.refactor_due = true;
@@ -147,7 +151,10 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       return kExitUnbounded;
     }
     const double delta = direction * step.step;
-    if (s.phase == 2) objective += s.d[q] * delta;
+    if (s.phase == 2) {
+      objective += s.d[q] * delta;
+      if (std::fabs(objective) > settings.unbounded_objective) return kExitUnbounded;
+    }
     s.step_last = step.step;
     s.pivot_last = step.flip ? 0.0 : s.column.value[step.position];
     if (step.flip) {

@@ -226,6 +226,9 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   clear_rejections(s);
   const int code = solve_to_true_tolerances(s, settings, units, regularization, mode.kind == StartKind::cold);
   store_solution(s, slot, code == kExitInfeasible);
+  // An objective beyond UNBOUNDED OBJECTIVE VALUE counts as unbounded, however it was reached.
+  if ((code == kExitOptimal || code == kExitNearOptimal) && std::fabs(slot.obj) > settings.unbounded_objective)
+    return kExitUnbounded;
   return code;
 }
 

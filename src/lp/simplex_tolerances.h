@@ -70,6 +70,9 @@ inline constexpr double kLeastFactorTol = 2.0;
 // Iterations for which a variable whose pivot stays inaccurate on the most stable factors is
 // passed over.
 inline constexpr int kRejectIterations = 20;
+// The row check every CHECK FREQUENCY iterations fails when a residual of [A I] x = 0 exceeds this
+// share of the largest value (working units).
+inline constexpr double kRowResidualTol = 1.0e-9;
 // Refactorizations in a row without an iteration in between before exit 12.
 inline constexpr int kRefactorsInARow = 3;
 

@@ -75,6 +75,13 @@ void compute_primal_values(SimplexState& s);
 bool set_basic_costs(SimplexState& s);
 void compute_duals(SimplexState& s);
 void measure_infeasibility(SimplexState& s);
+bool rows_hold(SimplexState& s);
+// Every CHECK FREQUENCY updates the rows are checked; true when they fail and the factors are due.
+inline bool check_due(SimplexState& s, const SimplexSettings& settings) {
+  if (s.updates == 0 || s.updates % settings.check_frequency != 0 || rows_hold(s)) return false;
+  s.refactor_due = true;
+  return true;
+}
 int count_dual_infeasible(const SimplexState& s);
 double working_objective(const SimplexState& s);
 void load_column(const SimplexState& s, int j, SparseVector& v);
