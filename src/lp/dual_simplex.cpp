@@ -114,6 +114,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
   if (!s.dual_weights_valid) reset_dual_weights(s);
   int code = kExitOptimal;
   bool fresh = true;
+  int updated = 0;  // iterations since the values were last computed from the factors
   int degenerate = 0;
   int refactors_in_a_row = 0;
   int cleared_at = -1;  // iteration count at which rows set aside were last cleared
@@ -125,6 +126,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
       code = refresh(s, settings, units, true);
       if (code != kExitOptimal) return code;
       fresh = true;
+      updated = 0;
     } else if (expand_reset_due(s, settings)) {
       reset_expand(s);
       shift_slipped_costs(s);
@@ -132,9 +134,12 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
     if (check_due(s, settings)) continue;
     const int r = choose_leaving(s);
     if (r < 0) {
-      if (!fresh) {
+      // Values updated over a few iterations are as good as fresh ones; after more, the optimum
+      // is confirmed from the factors.
+      if (updated >= kVerifyAfter) {
         refresh(s, settings, units, false);
         fresh = true;
+        updated = 0;
         continue;
       }
       if (!s.candidates_rejected) return kExitOptimal;
@@ -197,6 +202,7 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
     update_factors(s, r, settings, units);
     refactors_in_a_row = 0;
     fresh = false;
+    ++updated;
     advance_expand(s, settings);
     ++s.counters.iterations;
     ++s.counters.dual_iterations;

@@ -73,6 +73,9 @@ inline constexpr int kRejectIterations = 20;
 // The row check every CHECK FREQUENCY iterations fails when a residual of [A I] x = 0 exceeds this
 // share of the largest value (working units).
 inline constexpr double kRowResidualTol = 1.0e-9;
+// The dual method confirms an optimum from the factors when its values were updated over at least
+// this many iterations (the check in true units follows every solve in any case).
+inline constexpr int kVerifyAfter = 10;
 // Refactorizations in a row without an iteration in between before exit 12.
 inline constexpr int kRefactorsInARow = 3;
 
