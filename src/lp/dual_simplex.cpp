@@ -110,6 +110,7 @@ void apply_flips(SimplexState& s) {
 }  // namespace
 
 int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, bool dual_feasible) {
+  clear_rejections(s);  // what the primal method set aside was set aside from entering
   if (!dual_feasible && make_dual_feasible(s)) compute_primal_values(s);
   if (!s.dual_weights_valid) reset_dual_weights(s);
   int code = kExitOptimal;
@@ -199,8 +200,8 @@ int run_dual(SimplexState& s, const SimplexSettings& settings, Units& units, boo
     update_dual_weights(s, r, pivot);
     update_reduced_costs(s, q, r, dual_step);
     swap_basic(s, r, q, bound == s.lower[leaving] ? kNonbasicLower : kNonbasicUpper, bound);
-    update_factors(s, r, settings, units);
-    refactors_in_a_row = 0;
+    // Factors that cannot take a single update are requested again in a row.
+    if (update_factors(s, r, settings, units)) refactors_in_a_row = 0;
     fresh = false;
     ++updated;
     advance_expand(s, settings);

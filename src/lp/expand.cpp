@@ -5,7 +5,11 @@
 // Every EXPAND FREQUENCY iterations, and whenever the basis is factorized afresh, the share starts
 // again from its lower end and what slipped is cleaned up: nonbasic variables return to their
 // bounds exactly (the caller recomputes the basic ones) and reduced costs of the wrong sign are
-// shifted to zero (the shifts go when the solve ends).
+// shifted to zero (the shifts go when the solve ends). At an optimum the slipped nonbasic
+// variables return to their bounds only when the basic ones stay within their tolerances: in a
+// problem feasible only within the tolerances, returning them would push a basic variable out and
+// phase 1 would pull it back by the same pivots, round and round. They then stay where they
+// slipped to, within their own tolerances, as part of the solution.
 #include "lp/simplex_tolerances.h"
 #include "lp/simplex_work.h"
 
@@ -40,6 +44,28 @@ bool return_slipped_nonbasics(SimplexState& s) {
     moved |= s.x[j] != before;
   }
   return moved;
+}
+
+bool settle_slipped_nonbasics(SimplexState& s) {
+  // The slipped variables and their values, in the ratio tests' scratch lists.
+  int count = 0;
+  for (int j = 0; j < s.n + s.m; ++j) {
+    const signed char st = s.state[j];
+    if (st == kBasicVar || st == kSuperbasicVar) continue;
+    const double before = s.x[j];
+    place_nonbasic(s, j);
+    if (s.x[j] == before) continue;
+    s.flipped[count] = j;
+    s.candidate_ratio[count++] = before;
+  }
+  if (count == 0) return false;
+  compute_primal_values(s);
+  measure_infeasibility(s);
+  if (s.ninf == 0) return true;
+  for (int k = 0; k < count; ++k) s.x[s.flipped[k]] = s.candidate_ratio[k];
+  compute_primal_values(s);
+  measure_infeasibility(s);
+  return false;
 }
 
 void shift_slipped_costs(SimplexState& s) {

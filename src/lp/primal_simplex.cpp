@@ -82,6 +82,7 @@ double current_objective(const SimplexState& s) {
 }  // namespace
 
 int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
+  clear_rejections(s);  // what the dual method set aside was set aside from leaving
   int code = refresh(s, settings, units, !s.factors_valid);
   if (code != kExitOptimal) return code;
   reset_primal_weights(s);
@@ -117,8 +118,10 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
         cleared_at = s.counters.iterations;
         continue;
       }
-      // The point must hold with every nonbasic variable on its bound.
-      if (return_slipped_nonbasics(s)) fresh = false;
+      // An infeasible verdict must hold with every nonbasic variable on its bound; an optimum
+      // with them there when it can.
+      if (s.phase == 1 && return_slipped_nonbasics(s)) fresh = false;
+      if (s.phase == 2 && settle_slipped_nonbasics(s)) fresh = false;
       if (!fresh) {
         code = refresh(s, settings, units, false);
         objective = current_objective(s);
@@ -151,6 +154,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       return kExitUnbounded;
     }
     const double delta = direction * step.step;
+    bool updated = true;  // the factors took the basis change (a bound flip needs none)
     if (s.phase == 2) {
       objective += s.d[q] * delta;
       if (std::fabs(objective) > settings.unbounded_objective) return kExitUnbounded;
@@ -178,9 +182,10 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       update_primal_weights(s, q, r, pivot);
       update_reduced_costs(s, q, r, s.d[q] / pivot);
       swap_basic(s, r, q, step.leaving_state, step.leaving_value);
-      update_factors(s, r, settings, units);
+      updated = update_factors(s, r, settings, units);
     }
-    refactors_in_a_row = 0;
+    // Factors that cannot take a single update are requested again in a row.
+    if (updated) refactors_in_a_row = 0;
     fresh = false;
     advance_expand(s, settings);
     ++s.counters.iterations;

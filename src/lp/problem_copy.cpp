@@ -148,20 +148,14 @@ void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_dua
   static_assert(kBasicVar == 0 && kNonbasicLower == 1 && kNonbasicUpper == 2 && kNonbasicFree == 3 &&
                 kSuperbasicVar == 4);
   static constexpr int kSlotState[] = {kBasic, kAtLower, kAtUpper, kAtLower, kSuperbasic};
-  // A nonbasic variable reports its bound exactly, a free one zero.
-  const auto value_of = [&](int j, int k) {
-    switch (s.state[j]) {
-      case kNonbasicUpper: return slot.bu[k];
-      case kNonbasicLower: return slot.bl[k];
-      case kNonbasicFree: return 0.0;
-      default: return s.x[j] * s.scale[j];
-    }
-  };
+  // Scales are powers of 2: a nonbasic variable on its bound reports the bound exactly (one that
+  // slipped within its tolerance, where it is).
+  const auto value_of = [&](int j) { return s.state[j] == kNonbasicFree ? 0.0 : s.x[j] * s.scale[j]; };
   double activity = 0.0;  // of the objective row
   int superbasics = 0;
   for (int j = 0; j < s.n; ++j) {
     const int k = j + 1;
-    const double value = value_of(j, k);
+    const double value = value_of(j);
     slot.hs[k] = kSlotState[s.state[j]];
     slot.xn[k] = value;
     slot.rc[k] = sense * s.d[j] * s.inverse_scale[j];
@@ -172,7 +166,7 @@ void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_dua
     const int j = s.n + i;
     const int k = slot.n + s.slot_row[i];
     slot.hs[k] = kSlotState[s.state[j]];
-    slot.xn[k] = value_of(j, k);
+    slot.xn[k] = value_of(j);
     slot.pi[s.slot_row[i]] = sense * s.y[i] * s.inverse_scale[j];
     superbasics += s.state[j] == kSuperbasicVar;
   }

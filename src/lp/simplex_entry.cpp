@@ -104,8 +104,10 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
       code = run_primal(s, settings, units);
     } else {
       if (wrong_sign > kFewWrongSigns) {
+        // The auxiliary problem is feasible: an infeasible verdict there can only be numerical,
+        // and shifted costs take over as they do after a stall.
         code = run_dual_phase_one(s, settings, units);
-        if (code != kExitOptimal && code != kExitStalled) break;
+        if (code != kExitOptimal && code != kExitStalled && code != kExitInfeasible) break;
         wrong_sign = count_dual_infeasible(s);
       }
       if (cold && round == 0) perturb_costs(s);

@@ -118,6 +118,9 @@ bool expand_reset_due(const SimplexState& s, const SimplexSettings& settings);
 // The least share of a variable's tolerance that a step must move it by.
 double expand_increment(const SimplexSettings& settings);
 bool return_slipped_nonbasics(SimplexState& s);
+// At an optimum: returns the slipped nonbasic variables to their bounds unless that takes a basic
+// one beyond its tolerance; recomputes the basic values. True when they returned.
+bool settle_slipped_nonbasics(SimplexState& s);
 void shift_slipped_costs(SimplexState& s);
 
 // Pricing (pricing.cpp).

@@ -2,6 +2,7 @@
 // summary, the iteration log, the start word's complaint, and the workspace check.
 #include <gtest/gtest.h>
 
+#include "lp/simplex_work.h"
 #include "run_in_dir.h"
 #include "simplex_test_support.h"
 
@@ -28,10 +29,14 @@ struct Printed : Harness {
   }
 };
 
+// Each exit from small_lp changed by `setup`: its code, a line the print and summary files must
+// hold, and one more the print file must hold (the factorization's events).
 struct ExitCase {
   const char* name;
   int inform;
-  const char* message;  // a line the print file must hold
+  const char* message;
+  void (*setup)(DenseLp& lp, Options& o);
+  const char* print_only = "";
 };
 
 class SimplexExit : public ::testing::TestWithParam<ExitCase> {};
@@ -39,14 +44,16 @@ class SimplexExit : public ::testing::TestWithParam<ExitCase> {};
 TEST_P(SimplexExit, WritesItsMessageToPrintAndSummaryUnits) {
   const ExitCase& ec = GetParam();
   DenseLp lp = small_lp();
-  if (ec.inform == 1) lp.row_lo[1] = 5.0;  // x1 - x2 >= 5 cannot meet x1 + x2 <= 4, x >= 0
-  if (ec.inform == 2) lp.row_up[0] = kFree;
   Printed h(lp, true);
-  if (ec.inform == 3) h.options.ival[kIterationLimit] = 0;
+  ec.setup(lp, h.options);
+  load_slot(lp, h.slot);
   EXPECT_EQ(h.solve("cold"), ec.inform);
   for (const char* file : {"PRINT", "SUMMARY"}) {
     const std::string text = h.text(file);
     EXPECT_NE(text.find(std::string(ec.message) + "\n"), std::string::npos) << file << ":\n" << text;
+    if (file[0] == 'P') {
+      EXPECT_NE(text.find(std::string(ec.print_only) + "\n"), std::string::npos) << text;
+    }
     EXPECT_NE(text.find("\n\n Problem name                 TEST    \n No. of iterations"), std::string::npos) << text;
     EXPECT_NE(text.find(" No. of infeasibilities"), std::string::npos);
   }
@@ -54,11 +61,49 @@ TEST_P(SimplexExit, WritesItsMessageToPrintAndSummaryUnits) {
 
 INSTANTIATE_TEST_SUITE_P(
     Exits, SimplexExit,
-    ::testing::Values(ExitCase{"optimal", 0, " EXIT -- optimal solution found"},
-                      ExitCase{"infeasible", 1, " EXIT -- the problem is infeasible"},
-                      ExitCase{"unbounded", 2, " EXIT -- the problem is unbounded  (or badly scaled)."},
-                      ExitCase{"iterations", 3, " EXIT -- too many iterations"}),
+    ::testing::Values(
+        ExitCase{"optimal", 0, " EXIT -- optimal solution found", [](DenseLp&, Options&) {}},
+        // x1 - x2 >= 5 cannot meet x1 + x2 <= 4, x >= 0.
+        ExitCase{"infeasible", 1, " EXIT -- the problem is infeasible", [](DenseLp& lp, Options&) { lp.row_lo[1] = 5.0; }},
+        ExitCase{"unbounded", 2, " EXIT -- the problem is unbounded  (or badly scaled).",
+                 [](DenseLp& lp, Options&) { lp.row_up[0] = kFree; }},
+        // From the slack basis x2 first moves by 2; the optimum is -7.
+        ExitCase{"unbounded_step", 2, " EXIT -- the problem is unbounded  (or badly scaled).",
+                 [](DenseLp&, Options& o) {
+                   o.rval[kUnboundedStep] = 1.5;
+                   o.ival[kCrashOption] = 0;
+                 }},
+        ExitCase{"unbounded_objective", 2, " EXIT -- the problem is unbounded  (or badly scaled).",
+                 [](DenseLp&, Options& o) { o.rval[kUnboundedObjective] = 6.5; }},
+        ExitCase{"iterations", 3, " EXIT -- too many iterations", [](DenseLp&, Options& o) { o.ival[kIterationLimit] = 0; }},
+        // No entry reaches the pivot tolerance, so the infeasible start cannot be left.
+        ExitCase{"numerical", 10, " EXIT -- numerical error.  General constraints cannot be satisfied accurately",
+                 [](DenseLp& lp, Options& o) {
+                   lp.row_lo[1] = 1.0;
+                   o.rval[kPivotTolerance] = 1.5;
+                   o.ival[kScaleOption] = 0;
+                   o.ival[kCrashOption] = 0;
+                 }},
+        // Every update leaves a pivot below the singularity tolerance.
+        ExitCase{"refactor_twice", 12, " EXIT -- basis factorization requested twice in a row",
+                 [](DenseLp&, Options& o) {
+                   o.rval[kLuSingularityTolerance] = 1.5;
+                   o.ival[kCrashOption] = 0;
+                 },
+                 " LU replace  warning.  Singularity after replacing column. jrep =       1"},
+        // Reduced costs of -1 and -2 are within an optimality tolerance of 1e4.
+        ExitCase{"near_optimal", 13, " XXX WARNING: reduced gradient is large -- solution is not really optimal",
+                 [](DenseLp&, Options& o) { o.rval[kOptimalityTolerance] = 1e4; }}),
     [](const auto& info) { return std::string(info.param.name); });
+
+// The stall exit writes its count; the expanding tolerances leave no small LP that stalls.
+TEST(SimplexEntry, StallExitWritesTheIterationsWithoutProgress) {
+  Printed h;
+  SimplexSettings settings;
+  settings.print_unit = 31;
+  write_exit_message(4, 12345, 1, settings, h.units);
+  EXPECT_EQ(h.text(), " EXIT -- the objective has not changed for the last   12345 iterations\n");
+}
 
 TEST(SimplexEntry, TooLittleWorkspaceReturns42WithoutMessageOrSolve) {
   Printed h;
@@ -68,8 +113,12 @@ TEST(SimplexEntry, TooLittleWorkspaceReturns42WithoutMessageOrSolve) {
   EXPECT_EQ(h.slot.mincor, h.nwcore + 1);
   EXPECT_EQ(h.slot.obj, 123.0);
   EXPECT_EQ(h.text().find("EXIT"), std::string::npos);
-  // Anything within the slot's capacities fits the workspace the optimizer is given.
-  EXPECT_LE(simplex_workspace_needed(h.slot.mmax, h.slot.nmax, h.slot.nemax), 2 * h.slot.nemax);
+  // A slot filled to its capacities solves in the workspace of twice its ELEMENTS.
+  Harness full(3, 2, 6);
+  load_slot(small_lp(), full.slot);
+  ASSERT_EQ(full.slot.ne, full.slot.nemax);
+  full.nwcore = 2 * full.slot.nemax;
+  EXPECT_EQ(full.solve("cold"), 0);
 }
 
 TEST(SimplexEntry, UnknownStartWordIsReportedAndSolvedCold) {

@@ -139,5 +139,46 @@ TEST_P(CutResidue, MasterSolvesColdToTheOptimumWithoutTheResidue) {
 
 INSTANTIATE_TEST_SUITE_P(Residue, CutResidue, ::testing::Values(1e-15, 1e-12));
 
+// min x1 + 2 x2 with coef (x1 + x2) >= coef + excess and x1 + x2 <= 1, x >= 0: feasible within
+// the tolerance 1e-6 in the rows' own units exactly when x1 + x2 can lie within 1e-6 of 1 and
+// within 1e-6 / coef of 1 + excess / coef, however the scaling stretches the first row. With coef
+// 1e-3 and excess 2e-9 the scaled row asks for more than the second row allows, which once made
+// the primal method cycle between two bases for hundreds of iterations.
+struct ScaledRowCase {
+  const char* name;
+  double coef;
+  double excess;
+  int inform;
+};
+
+class ScaledRow : public ::testing::TestWithParam<ScaledRowCase> {};
+
+TEST_P(ScaledRow, FeasibilityIsJudgedInTheRowsOwnUnits) {
+  const ScaledRowCase& c = GetParam();
+  const DenseLp lp{2, 2, {1, 2}, {{c.coef, c.coef}, {1, 1}}, {c.coef + c.excess, -kFree}, {kFree, 1}, {0, 0}, {kFree, kFree}};
+  for (const int crash : {0, 3}) {
+    Harness h;
+    h.options.ival[kCrashOption] = crash;
+    load_slot(lp, h.slot);
+    ASSERT_EQ(h.solve("cold"), c.inform) << crash;
+    EXPECT_LT(h.state.counters.iterations, 10) << crash;
+    if (c.inform == 0) {
+      EXPECT_LE(kkt_error(h.slot).primal, 1e-6) << crash;
+      EXPECT_LE(h.slot.obj, 1.0 + 1e-6) << crash;  // x = (1, 0) is feasible within the tolerance
+      EXPECT_EQ(h.slot.ninf, 0) << crash;
+    } else {
+      EXPECT_GT(h.slot.sinf, 1e-6) << crash;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ScaledRow,
+                         ::testing::Values(ScaledRowCase{"cycling_pair", 1e-3, 2e-9, 0},
+                                           ScaledRowCase{"tiny_row_within", 1e-6, 5e-7, 0},
+                                           ScaledRowCase{"tiny_row_beyond", 1e-6, 2e-6, 1},
+                                           ScaledRowCase{"huge_row_within", 1e6, 0.5, 0},
+                                           ScaledRowCase{"huge_row_beyond", 1e6, 2.5, 1}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
 }  // namespace
 }  // namespace tarvo::lp::test
