@@ -64,6 +64,31 @@ INSTANTIATE_TEST_SUITE_P(Random, SimplexProperty,
                                            PropertyCase{"boxed_slack", 1, 0, 1, 15}),
                          [](const auto& info) { return std::string(info.param.name); });
 
+// Random LPs without their rows, and with one more column that no row holds: the working problem
+// then has no basis matrix at all, or a column whose transform is empty.
+TEST(SimplexStructure, NoRowsAndEmptyColumnsMatchVertexEnumeration) {
+  std::mt19937 rng(31);
+  for (int t = 0; t < 60; ++t) {
+    DenseLp lp = random_lp(rng, t % 2);
+    if (t % 3 == 0) {
+      lp.m = 0;
+      lp.a.clear();
+      lp.row_lo.clear();
+      lp.row_up.clear();
+    } else {
+      ++lp.n;
+      lp.c.push_back(t % 2 ? -1.0 : 2.0);
+      lp.lo.push_back(-1.0);
+      lp.up.push_back(t % 5 ? 3.0 : kFree);
+      for (auto& row : lp.a) row.push_back(0.0);
+    }
+    Harness h;
+    h.options.ival[kCrashOption] = 3 * (t % 2);
+    load_slot(lp, h.slot);
+    check_against_reference(h, lp, h.solve("cold"), "#" + std::to_string(t));
+  }
+}
+
 // Warm and hot re-solves after changes to right-hand sides, bounds and costs must agree with cold
 // solves; an unchanged matrix and basis must reuse the kept factors.
 enum class Change { rhs, bounds, costs, matrix };
