@@ -64,22 +64,28 @@ void write_everywhere(RunState& run, const std::string& line) {
   }
 }
 
+// "column X" and, when there are more, how many.
+std::string integer_columns_text(const RunState& run) {
+  const int count = run.core_read.integer_columns;
+  std::string text = "column " + trimmed(run.optimizer.slot[lp::kCoreSlot].names[run.core_read.first_integer_column]);
+  if (count > 1) text += " (and " + std::to_string(count - 1) + " more)";
+  return text;
+}
+
 // Integer columns are solved as continuous. By path that is done only when asked for.
 bool accept_integer_columns(RunState& run) {
-  const int count = run.core_read.integer_columns;
-  if (count == 0) return true;
-  const std::string first = trimmed(run.optimizer.slot[lp::kCoreSlot].names[run.core_read.first_integer_column]);
+  if (run.core_read.integer_columns == 0) return true;
   if (run.params.irelax == 1) {
-    const std::string warning = free_line("WARNING:", count, " integer columns (the first ", first,
-                                          ") are solved as continuous: the LP relaxation");
+    const std::string warning = free_line("WARNING: integer ", integer_columns_text(run),
+                                          " solved as continuous: the LP relaxation");
     input::write_if_open(run.units, run.params.iscratch, warning);
     input::write_if_open(run.units, kSolutionUnit, warning);
     return true;
   }
   if (!run.request.by_path) return true;
-  write_everywhere(run, free_line("ERROR: column ", first, " is integer (" + std::to_string(count) +
-                                  " integer columns in all); TARVO solves linear programs: run with --relax "
-                                  "(or 1 irelax in the parameter file) to solve the LP relaxation"));
+  write_everywhere(run, free_line("ERROR: ", integer_columns_text(run),
+                                  " is integer; TARVO solves linear programs: run with --relax (or 1 irelax in the "
+                                  "parameter file) to solve the LP relaxation"));
   return false;
 }
 
