@@ -60,8 +60,8 @@ int main(int argc, char** argv) {
   driver::RunRequest request;
   std::string error;
   if (!driver::request_for(line, request, error)) return fail(error);
-  request.params.clear();
-  request.specs.clear();
+  request.params_file.clear();
+  request.specs_file.clear();
   const auto run = read_two_stage_model(request);
   if (run == nullptr) return fail("the model could not be read (see the messages above)");
   lp::Optimizer& opt = run->optimizer;

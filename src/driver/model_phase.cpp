@@ -104,13 +104,13 @@ void echo_store_sizes(RunState& run) {
 
 bool start_optimizer(RunState& run) {
   const RunRequest& r = run.request;
-  if (r.specs.empty()) {
+  if (r.specs_file.empty()) {
     lp::optimizer_init_sized(run.optimizer, run.units, run.params.iscratch, run.params.iwrite,
                              capacity_for(r.core, run.params.nzrows));
     return true;
   }
   return lp::optimizer_init(run.optimizer, run.units, run.params.iscratch, kErrorUnit,
-                            run.params.iwrite, r.specs) == 0;
+                            run.params.iwrite, r.specs_file) == 0;
 }
 
 bool prescan_model(RunState& run) {

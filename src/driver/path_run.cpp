@@ -25,9 +25,9 @@ bool request_for(const CommandLine& line, RunRequest& request, std::string& erro
   request.time = absolute_path(files.time);
   request.stoch = absolute_path(files.stoch);
   const std::string& params = line.inp.empty() ? files.params : line.inp;
-  request.params = params.empty() ? params : absolute_path(params);
-  request.specs = line.spc.empty() ? line.spc : absolute_path(line.spc);
-  request.solution = line.eval.empty() ? line.eval : absolute_path(line.eval);
+  request.params_file = params.empty() ? params : absolute_path(params);
+  request.specs_file = line.spc.empty() ? line.spc : absolute_path(line.spc);
+  request.solution_file = line.eval.empty() ? line.eval : absolute_path(line.eval);
   request.evaluate = !line.eval.empty();
   request.istrat = line.strategy;
   request.nsamples = line.samples;

@@ -65,8 +65,8 @@ int run_tarvo(const RunRequest& request) {
   clock_start(run->clock);
   write_long_banner(run->units, kConsoleUnit);
   open_run_files(*run);
-  if (!read_run_params(run->units, run->params, request.params)) {
-    write_free(run->units, kErrorUnit, "error in file ", request.params);
+  if (!read_run_params(run->units, run->params, request.params_file)) {
+    write_free(run->units, kErrorUnit, "error in file ", request.params_file);
     return fail_run(*run);
   }
   apply_overrides(*run);

@@ -27,9 +27,9 @@ struct RunRequest {
   std::string core = "MODEL.COR";
   std::string time = "MODEL.TIM";
   std::string stoch = "MODEL.STO";
-  std::string params = "MODEL.INP";   // empty: none, every parameter at its default
-  std::string specs = "SIMPLEX.SPC";  // empty: the slots are sized from the core file
-  std::string solution = "MODEL.STA";
+  std::string params_file = "MODEL.INP";    // empty: none, every parameter at its default
+  std::string specs_file = "SIMPLEX.SPC";   // empty: the slots are sized from the core file
+  std::string solution_file = "MODEL.STA";  // evaluation runs
   bool by_path = false;   // files named on the command line: exit status 1 after an error
   bool evaluate = false;  // by path, the evaluation run is asked for here (else standard input)
   std::optional<int> istrat;

@@ -128,7 +128,7 @@ bool evaluate_solution_file(RunState& run) {
   Units& u = run.units;
   const int istrat = run.params.istrat;
   std::vector<double> x;
-  open_unit(u, kSolutionInputUnit, run.request.solution, OpenStatus::old_file);
+  open_unit(u, kSolutionInputUnit, run.request.solution_file, OpenStatus::old_file);
   read_solution(u, kSolutionInputUnit, run.params.iscratch, run.optimizer.slot[lp::kMasterSlot],
                 run.model.n1, x);
   close_unit(u, kSolutionInputUnit);
