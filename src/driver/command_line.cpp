@@ -8,14 +8,14 @@ namespace tarvo::driver {
 
 namespace {
 
-struct OptionSpec {
+struct KnownOption {
   std::string_view name;
   bool takes_value;
   bool tarvo;  // accepted by tarvo
   bool dep;    // accepted by tarvo-dep
 };
 
-constexpr OptionSpec kOptions[] = {
+constexpr KnownOption kOptions[] = {
     {"strategy", true, true, false}, {"samples", true, true, false}, {"seed", true, true, true},
     {"inp", true, true, false},      {"spc", true, true, false},     {"out", true, true, false},
     {"eval", true, true, false},     {"relax", false, true, true},   {"sample", true, false, true},
@@ -25,9 +25,9 @@ constexpr OptionSpec kOptions[] = {
 // The highest seed the generator takes; seed 0 would stay 0 for ever.
 constexpr int kHighestSeed = INT_MAX - 1;
 
-const OptionSpec* find_option(std::string_view name, Program program) {
-  for (const OptionSpec& spec : kOptions) {
-    if (spec.name == name && (program == Program::tarvo ? spec.tarvo : spec.dep)) return &spec;
+const KnownOption* find_option(std::string_view name, Program program) {
+  for (const KnownOption& option : kOptions) {
+    if (option.name == name && (program == Program::tarvo ? option.tarvo : option.dep)) return &option;
   }
   return nullptr;
 }
@@ -77,9 +77,9 @@ bool read_option(CommandLine& line, const std::vector<std::string>& args, std::s
   const std::string body = word == "-h" ? "help" : word.substr(2);
   const std::size_t equals = body.find('=');
   const std::string name = body.substr(0, equals);
-  const OptionSpec* spec = find_option(name, program);
-  if (spec == nullptr) return fail(line, "unknown option " + quoted(word));
-  if (!spec->takes_value) {
+  const KnownOption* known = find_option(name, program);
+  if (known == nullptr) return fail(line, "unknown option " + quoted(word));
+  if (!known->takes_value) {
     if (equals != std::string::npos) return fail(line, "--" + name + " takes no value");
     return apply_option(line, name, "");
   }
