@@ -109,6 +109,31 @@ TEST(FreeInput, LargestRepeatCount) {
   EXPECT_EQ(items.size(), 100000u);
 }
 
+// A read of a short list neither expands nor checks what stands behind it on the line.
+TEST(FreeInput, StopsAtTheItemsWanted) {
+  const struct {
+    std::string line;
+    std::size_t wanted;
+    const char* items;
+  } cases[] = {
+      {"3 istrat 'unterminated", 2, "3|istrat"}, {"100000*7 x", 2, "7|7"}, {"2*,5", 1, "~"},
+      {"1,,2", 2, "1|~"}, {"5", 2, "5"}, {"'a' 0*1", 1, "'a'"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.line);
+    std::vector<FreeItem> items;
+    bool ended = false;
+    ASSERT_TRUE(split_free_items(c.line, items, ended, c.wanted));
+    EXPECT_EQ(rendered(items), c.items);
+  }
+  std::string giant;  // a 4096-column MODEL.INP record of the largest repeat counts
+  while (giant.size() < 4096) giant += "100000*1 ";
+  std::vector<FreeItem> items;
+  bool ended = false;
+  ASSERT_TRUE(split_free_items(giant, items, ended, 2));
+  EXPECT_EQ(items.size(), 2u);
+}
+
 TEST(FreeInput, ParsesReals) {
   const struct {
     const char* text;
