@@ -23,24 +23,11 @@ inline std::string joined(const std::vector<std::string>& lines, const char* end
   return text;
 }
 
-// Numbers that overflow an int (or a double), and repeat counts that ask for a lot of items.
+// Numbers that overflow an int (or a double); the patterns of overlong records, among them the
+// largest repeat counts.
 inline const char* const kHugeNumbers[] = {"2147483648", "-2147483649", "4294967296",
                                            "99999999999999999999", "1e400", "-1e-400", "1d39"};
 inline const char* const kLongPatterns[] = {"A", "100000*1 ", "9,", "'", "1e30 "};
-
-// The number (digits, point, sign, exponent) around `at` replaced by a huge one.
-inline std::string with_huge_number(std::string text, std::size_t at, const char* number) {
-  const auto numeric = [&](std::size_t i) {
-    const char c = text[i];
-    return (c >= '0' && c <= '9') || c == '.' || c == '-' || c == '+' || c == 'e' || c == 'E' ||
-           c == 'd' || c == 'D';
-  };
-  if (at >= text.size() || !(text[at] >= '0' && text[at] <= '9')) return text;
-  std::size_t begin = at, end = at;
-  while (begin > 0 && numeric(begin - 1)) --begin;
-  while (end < text.size() && numeric(end)) ++end;
-  return text.replace(begin, end - begin, number);
-}
 
 inline std::string mutate(std::string text, std::mt19937& rng) {
   const auto pick = [&](std::size_t n) { return n == 0 ? 0 : std::uniform_int_distribution<std::size_t>(0, n - 1)(rng); };
@@ -66,10 +53,12 @@ inline std::string mutate(std::string text, std::mt19937& rng) {
       return text;
     case 7: text.insert(pick(text.size() + 1), std::string(1 + pick(3), '\0')); return text;
     case 8: return joined(lines, "\r\n");
-    case 9: {
-      const std::size_t at = text.find_first_of("0123456789", pick(text.size()));
-      return with_huge_number(text, at, kHugeNumbers[pick(std::size(kHugeNumbers))]);
-    }
+    case 9:  // the next number replaced by a huge one
+      if (const std::size_t at = text.find_first_of("0123456789", pick(text.size())); at != std::string::npos) {
+        const std::size_t end = text.find_first_not_of("0123456789.+-eEdD", at);
+        text.replace(at, end == std::string::npos ? end : end - at, kHugeNumbers[pick(std::size(kHugeNumbers))]);
+      }
+      return text;
     case 10:
       if (const std::size_t at = text.find(' ', pick(text.size())); at != std::string::npos) {
         text.insert(at + 1, pick(2) == 0 ? "100000*" : std::to_string(1 + pick(9)) + "*");

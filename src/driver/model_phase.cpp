@@ -19,7 +19,6 @@ input::MessageUnits message_units(const RunState& run) {
   return input::MessageUnits{run.log_unit, kErrorUnit};
 }
 
-
 void echo_store_sizes(RunState& run) {
   Units& u = run.units;
   const int log = run.log_unit;

@@ -138,7 +138,9 @@ bool read_run_params(Units& units, RunParams& params) {
   return ok;
 }
 
-bool sampled_strategy(int istrat) { return istrat >= 2 && istrat <= 11 && istrat != 4 && istrat != 5; }
+bool sampled_strategy(int istrat) {
+  return istrat >= 2 && istrat <= 11 && istrat != 4 && istrat != 5;
+}
 
 bool run_params_usable(Units& units, int log_unit, int err_unit, const RunParams& params) {
   const char* message = nullptr;

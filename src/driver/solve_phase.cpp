@@ -139,8 +139,9 @@ bool evaluate_solution_file(RunState& run) {
     return false;
   }
   benders::SolveState& st = run.solve;
-  const double spread = sampled_strategy(istrat) ? kConfidenceFactor * std::sqrt(run.evaluation.cut.variance)
-                                        : 0.0;
+  const double spread = sampled_strategy(istrat)
+                            ? kConfidenceFactor * std::sqrt(run.evaluation.cut.variance)
+                            : 0.0;
   st.lower_end = st.master_objective - spread;
   st.upper_end = st.master_objective + spread;
   write_solution_report(u, kSolutionUnit, report_of(run, istrat));

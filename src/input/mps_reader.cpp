@@ -34,13 +34,13 @@ void report_endata_missing(ReadState& state) {
 void report_back_to_front(ReadState& state, int j) {
   if (!count_fault(state, kBackToFront)) return;
   section_fault(state, laid_out("(a, i7, a, 1p, 2e15.6)", {" XXXX  Bounds back to front on column",
-                                                             j, " :", state.slot.bl[j],
-                                                             state.slot.bu[j]}));
+                                                           j, " :", state.slot.bl[j],
+                                                           state.slot.bu[j]}));
 }
 
 void report_error_total(ReadState& state) {
   section_fault(state, laid_out("(a, i8)", {" XXXX  Total no. of errors in MPS file",
-                                              state.result.errors}));
+                                            state.result.errors}));
 }
 
 void report_names_selected(ReadState& state) {

@@ -74,7 +74,7 @@ void report_objective_out_of_place(ReadState& state) {
   ++state.result.errors;
   const lp::Name8 name = state.row_names[state.objective_row];
   section_fault(state, laid_out("(a, a)", {" XXXX  The linear objective card      N ",
-                                             lp::name_view(name)}));
+                                           lp::name_view(name)}));
   section_fault(state, " XXXX  is out of place.    Nonlinear constraints must come first,");
   section_fault(state, " XXXX  and the linear objective must follow them.");
 }

