@@ -66,7 +66,7 @@ TEST(InputsFuzz, MutatedOptionsParametersAndSolutionsNeverCrash) {
   const fs::path dir = fuzz_case_directory(), previous = fs::current_path();
   fs::create_directories(dir);
   std::mt19937 rng(20261124);
-  for (int round = 0; round < 2000; ++round) {
+  for (int round = 0; round < 1000; ++round) {
     std::string text[3];
     for (int f = 0; f < 3; ++f) text[f] = kSeeds[round % 2][f];
     for (int k = 1 + static_cast<int>(rng() % 3); k > 0; --k) {

@@ -207,7 +207,8 @@ TEST(OptionPhrases, SetNamesComeFromTheSecondWord) {
   EXPECT_EQ(o.rhs_name, Name8{});
 }
 
-// A number where a second keyword may stand is the phrase's value: SCALE 0.5 is SCALE alone.
+// A positive number on a SCALE phrase other than SCALE OPTION is the scale tolerance; a number
+// where a second keyword may stand is the phrase's value (SCALE 0.5 is SCALE alone).
 TEST(OptionPhrases, ScaleTakesAPositiveNumberAsItsTolerance) {
   Units units;
   Options o;
