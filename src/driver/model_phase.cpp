@@ -16,19 +16,12 @@ constexpr int kDebugListingLevel = 8;
 constexpr int kSplitDumpLevel = 6;
 
 input::MessageUnits message_units(const RunState& run) {
-  return input::MessageUnits{run.params.iscratch, kErrorUnit};
-}
-
-// The reader's listing goes to the optimizer's print file; its messages also to the summary
-// file, or to MODEL.ERR when the optimizer keeps no summary.
-int reader_summary_unit(const RunState& run) {
-  const int summary = run.optimizer.options.ival[lp::kSummaryFile];
-  return summary > 0 ? summary : kErrorUnit;
+  return input::MessageUnits{run.log_unit, kErrorUnit};
 }
 
 void echo_store_sizes(RunState& run) {
   Units& u = run.units;
-  const int log = run.params.iscratch;
+  const int log = run.log_unit;
   write_free(u, log, "stoch array sizes:");
   write_free(u, log, "jele:  ", run.store.jele);
   write_free(u, log, "jsum:  ", run.store.jsum);
@@ -68,9 +61,10 @@ bool read_model(RunState& run) {
     return false;
   }
   lp::ProblemSlot& core = opt.slot[lp::kCoreSlot];
+  // The reader writes to the optimizer's print and summary files; faults also to MODEL.ERR.
   if (input::failed(input::read_core_problem(core, opt.options, u, opt.options.ival[lp::kPrintFile],
-                                             reader_summary_unit(run), to, run.params.iwrite,
-                                             run.core_read))) {
+                                             opt.options.ival[lp::kSummaryFile], to,
+                                             run.params.iwrite, run.core_read))) {
     return false;
   }
   const input::MpsNames& names = run.core_read.names;

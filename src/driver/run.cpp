@@ -26,8 +26,9 @@ void open_run_files(RunState& run) {
 }
 
 void open_screen_log(RunState& run) {
-  const int unit = run.params.iscratch;
+  const int unit = run.params.iscratch == kConsoleUnit ? kConsoleUnit : kScreenLogUnit;
   if (unit != kConsoleUnit) open_unit(run.units, unit, "MODEL.SCR", OpenStatus::unknown);
+  run.log_unit = unit;
   write_long_banner(run.units, unit);
   echo_run_params(run.units, unit, run.params);
 }
@@ -55,7 +56,11 @@ int run_tarvo() {
   }
   sampling::seed_generator(run->evaluation, run->params.iseed);
   open_screen_log(*run);
-  if (lp::optimizer_init(run->optimizer, run->units, run->params.iscratch, kErrorUnit,
+  if (!run_params_usable(run->units, run->log_unit, kErrorUnit, run->params)) {
+    error_exit(*run, 1);
+    return 0;
+  }
+  if (lp::optimizer_init(run->optimizer, run->units, run->log_unit, kErrorUnit,
                          run->params.iwrite) != 0) {
     // The optimizer could not start: stop at once, without the status file or the exit line.
     write_free(run->units, kErrorUnit, "ERROR: could not initialize optimizer");

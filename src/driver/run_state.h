@@ -17,6 +17,9 @@ inline constexpr int kStatusUnit = 18;
 inline constexpr int kSprUnit = 7;
 inline constexpr int kStochUnit = 8;
 inline constexpr int kSolutionInputUnit = 35;
+// MODEL.SCR is written on a unit of its own whatever `iscratch` names, so that no value of it can
+// mean "no file" (0 or less), standard input (5), or another file's unit.
+inline constexpr int kScreenLogUnit = 17;
 
 struct RunState {
   Units units;
@@ -29,6 +32,7 @@ struct RunState {
   input::OutcomeStore store;
   sampling::Evaluation evaluation;
   benders::SolveState solve;
+  int log_unit = kScreenLogUnit;  // the console when iscratch is 6, else MODEL.SCR
   int model_status = 0;
   int solver_status = 0;
   bool evaluation_run = false;

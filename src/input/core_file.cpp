@@ -46,7 +46,8 @@ InputStatus read_core_problem(lp::ProblemSlot& core, const lp::Options& options,
                               int print_unit, int summary_unit, const MessageUnits& to,
                               int iwrite, MpsReadResult& read) {
   const std::string file_name = "MODEL.COR";
-  read = read_mps_file(core, options, units, file_name, kCoreUnit, print_unit, summary_unit);
+  read = read_mps_file(core, options, units, file_name, kCoreUnit, print_unit, summary_unit,
+                       to.err);
   if (read.status == InputStatus::missing_file) report_no_file(units, to, file_name);
   const InputStatus status = check_core_problem(core, lp::kCoreSlot, read, file_name, units, to);
   if (!failed(status) && iwrite >= kDumpLevel) {
