@@ -28,7 +28,7 @@ std::unique_ptr<driver::RunState> read_two_stage_model(const driver::RunRequest&
   auto run = std::make_unique<driver::RunState>();
   run->request = request;
   run->params.nzrows = 0;
-  run->params.iscratch = 0;
+  run->log_unit = 0;
   run->params.irelax = request.relax ? 1 : 0;
   run->message_unit = kConsoleUnit;
   if (!driver::start_optimizer(*run) || !driver::prescan_model(*run) || !driver::read_model(*run)) return nullptr;

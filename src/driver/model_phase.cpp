@@ -24,14 +24,7 @@ constexpr long long kSpareIterations = 1000;
 constexpr long long kLargestCapacity = 1LL << 28;
 
 input::MessageUnits message_units(const RunState& run) {
-  return input::MessageUnits{run.params.iscratch, run.message_unit};
-}
-
-// The reader's listing goes to the optimizer's print file; its messages also to the summary
-// file, or to MODEL.ERR when the optimizer keeps no summary.
-int reader_summary_unit(const RunState& run) {
-  const int summary = run.optimizer.options.ival[lp::kSummaryFile];
-  return summary > 0 ? summary : run.message_unit;
+  return input::MessageUnits{run.log_unit, run.message_unit};
 }
 
 int capped(long long value) { return static_cast<int>(std::clamp(value, 1LL, kLargestCapacity)); }
@@ -58,7 +51,7 @@ std::string trimmed(const lp::Name8& name) {
 
 // Each of the units once: screen log, message unit and console.
 void write_everywhere(RunState& run, const std::string& line) {
-  const int units[] = {run.params.iscratch, run.message_unit, kConsoleUnit};
+  const int units[] = {run.log_unit, run.message_unit, kConsoleUnit};
   for (int k = 0; k < 3; ++k) {
     if (std::find(units, units + k, units[k]) == units + k) input::write_if_open(run.units, units[k], line);
   }
@@ -78,7 +71,7 @@ bool accept_integer_columns(RunState& run) {
   if (run.params.irelax == 1) {
     const std::string warning = free_line("WARNING: integer ", integer_columns_text(run),
                                           " solved as continuous: the LP relaxation");
-    input::write_if_open(run.units, run.params.iscratch, warning);
+    input::write_if_open(run.units, run.log_unit, warning);
     input::write_if_open(run.units, kSolutionUnit, warning);
     return true;
   }
@@ -91,7 +84,7 @@ bool accept_integer_columns(RunState& run) {
 
 void echo_store_sizes(RunState& run) {
   Units& u = run.units;
-  const int log = run.params.iscratch;
+  const int log = run.log_unit;
   write_free(u, log, "stoch array sizes:");
   write_free(u, log, "jele:  ", run.store.jele);
   write_free(u, log, "jsum:  ", run.store.jsum);
@@ -105,11 +98,11 @@ void echo_store_sizes(RunState& run) {
 bool start_optimizer(RunState& run) {
   const RunRequest& r = run.request;
   if (r.specs_file.empty()) {
-    lp::optimizer_init_sized(run.optimizer, run.units, run.params.iscratch, run.params.iwrite,
+    lp::optimizer_init_sized(run.optimizer, run.units, run.log_unit, run.params.iwrite,
                              capacity_for(r.core, run.params.nzrows));
     return true;
   }
-  return lp::optimizer_init(run.optimizer, run.units, run.params.iscratch, kErrorUnit,
+  return lp::optimizer_init(run.optimizer, run.units, run.log_unit, kErrorUnit,
                             run.params.iwrite, r.specs_file) == 0;
 }
 
@@ -143,9 +136,10 @@ bool read_model(RunState& run) {
     return false;
   }
   lp::ProblemSlot& core = opt.slot[lp::kCoreSlot];
+  // The reader writes to the optimizer's print and summary files; faults also to MODEL.ERR.
   if (input::failed(input::read_core_problem(core, opt.options, u, opt.options.ival[lp::kPrintFile],
-                                             reader_summary_unit(run), to, run.params.iwrite,
-                                             run.core_read, files.core)) ||
+                                             opt.options.ival[lp::kSummaryFile], to,
+                                             run.params.iwrite, run.core_read, files.core)) ||
       !accept_integer_columns(run)) {
     return false;
   }

@@ -25,8 +25,9 @@ void open_run_files(RunState& run) {
 }
 
 void open_screen_log(RunState& run) {
-  const int unit = run.params.iscratch;
+  const int unit = run.params.iscratch == kConsoleUnit ? kConsoleUnit : kScreenLogUnit;
   if (unit != kConsoleUnit) open_unit(run.units, unit, "MODEL.SCR", OpenStatus::unknown);
+  run.log_unit = unit;
   write_long_banner(run.units, unit);
   echo_run_params(run.units, unit, run.params);
 }
@@ -72,6 +73,7 @@ int run_tarvo(const RunRequest& request) {
   apply_overrides(*run);
   sampling::seed_generator(run->evaluation, run->params.iseed);
   open_screen_log(*run);
+  if (!run_params_usable(run->units, run->log_unit, kErrorUnit, run->params)) return fail_run(*run);
   if (!start_optimizer(*run)) {
     // The optimizer could not start: stop at once, without the status file or the exit line.
     write_free(run->units, kErrorUnit, "ERROR: could not initialize optimizer");

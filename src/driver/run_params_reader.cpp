@@ -75,17 +75,17 @@ double* real_param(RunParams& p, int k) {
 enum class RecordRead { ok, end_of_file, error };
 
 RecordRead read_param_record(LineReader& reader, double& value, std::string& keyword) {
-  int wanted = 0;  // items read so far in this record
+  constexpr int kItems = 2;
+  int taken = 0;  // items read so far in this record
   std::string line;
   std::vector<FreeItem> items;
-  while (wanted < 2) {
+  while (taken < kItems) {
     if (!next_line(reader, line)) return RecordRead::end_of_file;
     bool ended = false;
-    if (!split_free_items(line, items, ended)) return RecordRead::error;
+    if (!split_free_items(line, items, ended, kItems - taken)) return RecordRead::error;
     for (const FreeItem& item : items) {
-      if (wanted == 2) break;
       if (!item.null) {
-        if (wanted == 0) {
+        if (taken == 0) {
           double number = 0.0;
           if (item.quoted || !parse_free_real(item.text, number)) return RecordRead::error;
           value = number;
@@ -93,7 +93,7 @@ RecordRead read_param_record(LineReader& reader, double& value, std::string& key
           keyword = keyword8(item.text);
         }
       }
-      ++wanted;
+      ++taken;
     }
     if (ended) break;
   }
@@ -141,6 +141,23 @@ bool read_run_params(Units& units, RunParams& params, const std::string& file_na
   close_unit(units, kInputParamsUnit);
   if (params.rho < kSmallestRho) params.rho = kSmallestRho;
   return ok;
+}
+
+bool sampled_strategy(int istrat) {
+  return istrat >= 2 && istrat <= 11 && istrat != 4 && istrat != 5;
+}
+
+bool run_params_usable(Units& units, int log_unit, int err_unit, const RunParams& params) {
+  const char* message = nullptr;
+  if (params.nzrows < 1) {
+    message = "error: nzrows must be at least 1";
+  } else if (params.nsamples < 1 && sampled_strategy(params.istrat)) {
+    message = "error: nsamples must be at least 1 for a sampled strategy";
+  }
+  if (message == nullptr) return true;
+  write_free(units, log_unit, message);
+  write_free(units, err_unit, message);
+  return false;
 }
 
 void echo_run_params(Units& units, int unit, const RunParams& params) {

@@ -25,4 +25,12 @@ bool set_run_param(RunParams& params, int k, double value);
 
 void echo_run_params(Units& units, int unit, const RunParams& params);
 
+// Strategies that draw a sample of `nsamples` points (all but 1, 4 and 5 of 1..11).
+bool sampled_strategy(int istrat);
+
+// The values read are taken as they stand, but a run cannot use every one: it needs a cut row
+// and, for a sampled strategy, a sample point. False (message written to the error unit and to
+// `log_unit`) when a value leaves the run nothing to work with.
+bool run_params_usable(Units& units, int log_unit, int err_unit, const RunParams& params);
+
 }  // namespace tarvo::driver

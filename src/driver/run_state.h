@@ -20,6 +20,9 @@ inline constexpr int kStatusUnit = 18;
 inline constexpr int kSprUnit = 7;
 inline constexpr int kStochUnit = 8;
 inline constexpr int kSolutionInputUnit = 35;
+// MODEL.SCR is written on a unit of its own whatever `iscratch` names, so that no value of it can
+// mean "no file" (0 or less), standard input (5), or another file's unit.
+inline constexpr int kScreenLogUnit = 17;
 
 // The files a run reads and what its command line sets; the defaults are the run without
 // arguments, in the working directory.
@@ -50,11 +53,12 @@ struct RunState {
   input::OutcomeStore store;
   sampling::Evaluation evaluation;
   benders::SolveState solve;
+  int log_unit = kScreenLogUnit;  // the console when iscratch is 6, else MODEL.SCR
+  int message_unit = kErrorUnit;  // where model-input messages go besides the screen log
   int model_status = 0;
   int solver_status = 0;
   bool evaluation_run = false;
   bool solve_ready = false;  // the solve state is sized: the reports have a master to show
-  int message_unit = kErrorUnit;  // where model-input messages go besides the screen log
 };
 
 // What the sampling layer and the Benders loop borrow from the run.

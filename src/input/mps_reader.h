@@ -34,10 +34,11 @@ struct MpsReadResult {
 };
 
 // Reads `file_name` on `mps_unit` into the slot. The listing and the messages about single lines
-// go to `print_unit`, section-level messages also to `summary_unit`, each only when open. The
-// slot's loaded flag is left clear; check_core_problem (core_file.h) sets it.
+// go to `print_unit`, section-level messages also to `summary_unit`, each only when open; faults,
+// which fail the read, are also written to `error_unit` when open. The slot's loaded flag is left
+// clear; check_core_problem (core_file.h) sets it.
 MpsReadResult read_mps_file(lp::ProblemSlot& slot, const lp::Options& options, Units& units,
                             const std::string& file_name, int mps_unit, int print_unit,
-                            int summary_unit);
+                            int summary_unit, int error_unit = 0);
 
 }  // namespace tarvo::input

@@ -6,7 +6,6 @@
 #include <random>
 
 #include "common/record_format.h"
-
 #include "input/mps_writer.h"
 #include "input_test_support.h"
 
@@ -116,6 +115,33 @@ TEST(RoundTrip, ValueFieldsKeepTheDigitsThatFit) {
   for (const auto& [v, text] : {std::pair{0.0, "0"}, {-0.25, "-.25"}, {1e20, "1E20"}, {-1.5e-7, "-1.5E-7"},
                                 {123456789012.0, "123456789012"}, {1.0 / 3, ".33333333333"}}) {
     EXPECT_EQ(mps_value_field(v), text);
+  }
+}
+
+// Each RANGES entry counts from the limits the RHS section (1.0) left, however many came before.
+TEST(RoundTrip, RangesCountFromTheRightHandSide) {
+  const struct {
+    char type;
+    std::vector<const char*> ranges;
+    double lower, upper;
+  } cases[] = {
+      {'G', {"-2.0"}, 1, 3},        {'L', {"2.0"}, -1, 1},        {'E', {"2.0"}, 1, 3},
+      {'E', {"-1.0"}, 0, 1},        {'E', {"0.0"}, 1, 1},         {'E', {"2.0", "-1.0"}, 0, 1},
+      {'E', {"-1.0", "2.0"}, 1, 3}, {'E', {"2.0", "0.0"}, 1, 1},  {'G', {"5.0", "2.0"}, 1, 3},
+  };
+  TempDir dir("ranges");
+  for (const auto& c : cases) {
+    std::string text = std::string("NAME\nROWS\n N  COST\n ") + c.type + "  DEMAND1\nCOLUMNS\n"
+                       "    X         DEMAND1   1.0\nRHS\n    RHS       DEMAND1   1.0\nRANGES\n";
+    for (const char* r : c.ranges) text += "    RNG       DEMAND1   " + std::string(r) + "\n";
+    dir.write("r.mps", text + "ENDATA\n");
+    SCOPED_TRACE(text);
+    lp::ProblemSlot slot = make_slot(10, 10, 10);
+    Units units;
+    ASSERT_EQ(read_mps_file(slot, default_options(), units, dir.file("r.mps"), kCorUnit, 0, 0).status,
+              InputStatus::ok);
+    EXPECT_EQ(lp::row_lower(slot, 2), c.lower);
+    EXPECT_EQ(lp::row_upper(slot, 2), c.upper);
   }
 }
 
