@@ -11,11 +11,15 @@
 namespace tarvo::driver {
 namespace {
 
-constexpr std::array<std::string_view, 16> kUpperKeywords = {
+// The sixteen echoed parameters, then irelax.
+constexpr int kParams = 17;
+constexpr int kEchoedParams = 16;
+constexpr std::array<std::string_view, kParams> kUpperKeywords = {
     "ISTRAT  ", "NSAMPLES", "NZROWS  ", "MAXIT   ", "IWRITE  ", "IBUG    ", "ISCRATCH", "IRESAMP ",
-    "IGMS    ", "IREG    ", "RHO     ", "TOLBEN  ", "TOLW    ", "IAPPR   ", "MAXTIME ", "ISEED   "};
+    "IGMS    ", "IREG    ", "RHO     ", "TOLBEN  ", "TOLW    ", "IAPPR   ", "MAXTIME ", "ISEED   ",
+    "IRELAX  "};
 
-constexpr std::array<std::string_view, 16> kEchoLabels = {
+constexpr std::array<std::string_view, kEchoedParams> kEchoLabels = {
     "istrat    = ", "nsamples  = ", "nzrows    = ", "maxit     = ", "iwrite    = ", "ibug      = ",
     "iscratch  = ", "iresamp   = ", "igms      = ", "ireg      = ", "rho       = ", "tolben    = ",
     "tolw      = ", "iappr     = ", "maxtime   = ", "iseed     = "};
@@ -50,6 +54,7 @@ int* int_param(RunParams& p, int k) {
     case 10: return &p.ireg;
     case 14: return &p.iappr;
     case 16: return &p.iseed;
+    case 17: return &p.irelax;
     default: return nullptr;
   }
 }
@@ -98,7 +103,7 @@ RecordRead read_param_record(LineReader& reader, double& value, std::string& key
 }  // namespace
 
 int run_param_index(std::string_view key) {
-  for (int k = 0; k < 16; ++k) {
+  for (int k = 0; k < kParams; ++k) {
     if (key == kUpperKeywords[k]) return k + 1;
     if (key == lower_case(kUpperKeywords[k])) return k + 1;
   }
@@ -118,9 +123,9 @@ bool set_run_param(RunParams& params, int k, double value) {
   return true;
 }
 
-bool read_run_params(Units& units, RunParams& params) {
+bool read_run_params(Units& units, RunParams& params, const std::string& file_name) {
   params = RunParams{};
-  if (!open_unit(units, kInputParamsUnit, "MODEL.INP", OpenStatus::old_file)) return true;
+  if (file_name.empty() || !open_unit(units, kInputParamsUnit, file_name, OpenStatus::old_file)) return true;
   LineReader reader{unit_stream(units, kInputParamsUnit)};
   double value = 0.0;
   std::string keyword(8, ' ');
@@ -159,7 +164,7 @@ void echo_run_params(Units& units, int unit, const RunParams& params) {
   RunParams copy = params;
   write_free(units, unit, "parameters: ");
   write_free(units, unit);
-  for (int k = 1; k <= 16; ++k) {
+  for (int k = 1; k <= kEchoedParams; ++k) {
     if (const double* real = real_param(copy, k)) {
       write_free(units, unit, kEchoLabels[k - 1], *real);
     } else {

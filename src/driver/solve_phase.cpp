@@ -127,7 +127,7 @@ bool evaluate_solution_file(RunState& run) {
   Units& u = run.units;
   const int istrat = run.params.istrat;
   std::vector<double> x;
-  open_unit(u, kSolutionInputUnit, "MODEL.STA", OpenStatus::unknown_input);
+  open_unit(u, kSolutionInputUnit, run.request.solution_file, OpenStatus::unknown_input);
   read_solution(u, kSolutionInputUnit, run.log_unit, run.optimizer.slot[lp::kMasterSlot],
                 run.model.n1, x);
   close_unit(u, kSolutionInputUnit);

@@ -88,6 +88,13 @@ void store_rows(ReadState& state) {
   if (state.objective_row > 0) state.result.names.objective = state.row_names[state.objective_row];
 }
 
+int first_marked_integer(const ReadState& state) {
+  for (int j = 1; j <= state.slot.n; ++j) {
+    if (state.slot.reader_work[j] != 0) return j;
+  }
+  return 0;
+}
+
 void check_bound_order(ReadState& state) {
   for (int j = 1; j <= state.columns; ++j) {
     if (state.slot.bl[j] > state.slot.bu[j]) report_back_to_front(state, j);
@@ -128,6 +135,7 @@ void read_sections(ReadState& state) {
   if (!card_is(state, "ENDA")) report_endata_missing(state);
   check_bound_order(state);
   store_rows(state);
+  state.result.first_integer_column = first_marked_integer(state);
   if (state.result.errors > 0) report_error_total(state);
   report_names_selected(state);
 }

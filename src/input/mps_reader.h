@@ -28,6 +28,7 @@ struct MpsReadResult {
   int ranges_entries = 0;
   int bounds_entries = 0;
   int integer_columns = 0;  // marked integer; counted only, solved as continuous
+  int first_integer_column = 0;  // the first of them in column order, or 0
   int hash_length = 0;
   long long collisions = 0;
 };
