@@ -1,5 +1,5 @@
 #pragma once
-// The sixteen run parameters, with their defaults. Read once at the start of a run (driver);
+// The sixteen run parameters, with their defaults, and the switch for integer columns. Read once at the start of a run (driver);
 // every subsystem reads them from here.
 
 namespace tarvo {
@@ -21,6 +21,8 @@ struct RunParams {
   int iappr = 1;
   double maxtime = 345600.0;
   int iseed = 12933428;
+  // 1: integer columns of the core are solved as continuous, with a warning (not echoed).
+  int irelax = 0;
 };
 
 }  // namespace tarvo

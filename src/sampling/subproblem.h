@@ -7,6 +7,13 @@
 
 namespace tarvo::sampling {
 
+// Writes the current outcome values (ev.current) into the subproblem slot and into the working
+// coupling values and right-hand sides (ev.b_work, ev.rhs_work), each rebuilt from its base copy:
+// the outcome replaces the core's value, and parameters at one location add up. False for an
+// unknown parameter kind, which is returned in `bad_kind`.
+bool apply_outcome(lp::ProblemSlot& sub, const input::Decomposition& model,
+                   const input::OutcomeStore& store, Evaluation& ev, int& bad_kind);
+
 // Writes the current outcome values (ev.current) and the proposal x-hat into the subproblem
 // slot: coupling values and right-hand sides from their base copies, every touched matrix entry
 // and bound rebuilt, and the row logicals' bounds set to -r, r = h(omega) + C x-hat. An unknown

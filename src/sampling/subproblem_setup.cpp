@@ -14,8 +14,7 @@ constexpr int kUpper = -11;
 constexpr int kLower = -12;
 constexpr int kFixed = -13;
 
-void copy_base_data(const Context& ctx, Evaluation& ev) {
-  const input::Decomposition& d = ctx.model;
+void copy_base_data(const input::Decomposition& d, Evaluation& ev) {
   for (int p = 1; p <= d.b_nonzeros; ++p) ev.b_work[p] = d.b[p];
   for (int i = 1; i <= ev.m2; ++i) ev.rhs_work[i] = d.h[i];
 }
@@ -79,17 +78,26 @@ void set_row_limits(lp::ProblemSlot& sub, const Evaluation& ev) {
 
 }  // namespace
 
-int subsetup(const Context& ctx, Evaluation& ev) {
-  lp::ProblemSlot& sub = ctx.optimizer.slot[lp::kSubproblemSlot];
-  const input::OutcomeStore& store = ctx.store;
-  copy_base_data(ctx, ev);
+bool apply_outcome(lp::ProblemSlot& sub, const input::Decomposition& model,
+                   const input::OutcomeStore& store, Evaluation& ev, int& bad_kind) {
+  copy_base_data(model, ev);
   for (int e = 1; e <= ev.nentries; ++e) {
     if (!reset_location(sub, ev, store.kind[e], store.location[e])) {
-      write_free(ctx.units, ctx.log_unit, "bogus iiw value ", store.kind[e]);
-      return kErrorExit;
+      bad_kind = store.kind[e];
+      return false;
     }
   }
   for (int e = 1; e <= ev.nentries; ++e) apply_value(sub, ev, store.kind[e], store.location[e], ev.current[e]);
+  return true;
+}
+
+int subsetup(const Context& ctx, Evaluation& ev) {
+  lp::ProblemSlot& sub = ctx.optimizer.slot[lp::kSubproblemSlot];
+  int bad_kind = 0;
+  if (!apply_outcome(sub, ctx.model, ctx.store, ev, bad_kind)) {
+    write_free(ctx.units, ctx.log_unit, "bogus iiw value ", bad_kind);
+    return kErrorExit;
+  }
   couple_proposal(ctx, ev, ctx.master_primal);
   if (ctx.params.ibug >= 7) write_rhs_trace(ctx, ev);
   for (int i = 1; i <= ev.m2; ++i) ev.coupled[i] += ev.rhs_work[i];
