@@ -35,9 +35,6 @@ inline constexpr double kRowwiseShare = 0.4;
 // Optimal and near-optimal are told apart at this ratio of the reduced-gradient norm to the
 // reference norm: the single-precision 0.1 widened to double, compared in double precision.
 inline constexpr double kNearOptimalRatio = 0.10000000149011612;
-// A problem whose sum of infeasibilities is below this multiple of the feasibility tolerance per
-// infeasible variable is taken as feasible when a phase 1 stops.
-inline constexpr double kPhaseOneSlack = 1.0;
 // Scaling: at most this many geometric-mean passes, and scale factors kept within these limits.
 inline constexpr int kScalePasses = 20;
 inline constexpr double kScaleMin = 1.0e-10;
@@ -59,10 +56,8 @@ inline constexpr int kCleanupRounds = 3;
 // value beyond its bound, a reduced cost of the wrong sign) are held to it for one more pass, so
 // that large duals do not turn the slack the tolerances give into a visible objective error.
 inline constexpr double kPolishShare = 1.0e-3;
-// Phase 1 of the dual method: the box of a free variable in the auxiliary problem, and the number
-// of reduced costs of the wrong sign up to which a start shifts costs instead.
+// Phase 1 of the dual method: the box of a free variable in the auxiliary problem.
 inline constexpr double kFreeBox = 1000.0;
-inline constexpr int kFewWrongSigns = 0;
 // Fresh factors whose pivots disagree are recomputed with the factor tolerance divided by this,
 // down to the least value.
 inline constexpr double kFactorTolReduction = 10.0;
@@ -76,7 +71,8 @@ inline constexpr double kRowResidualTol = 1.0e-9;
 // The dual method confirms an optimum from the factors when its values were updated over at least
 // this many iterations (the check in true units follows every solve in any case).
 inline constexpr int kVerifyAfter = 10;
-// Refactorizations in a row without an iteration in between before exit 12.
+// Factorizations in a row that take no update (none asked for, or the first refused) before exit
+// 12.
 inline constexpr int kRefactorsInARow = 3;
 
 }  // namespace tarvo::lp
