@@ -1,7 +1,8 @@
 // Anti-degeneracy by expanding tolerances. The ratio tests let basic variables pass their bounds
 // (primal) and reduced costs pass zero (dual) by a share of each variable's own tolerance that
-// grows a little every iteration, and they take at least the step that this growth allows: no step
-// is zero, so the objective moves every iteration and a degenerate vertex cannot be cycled at.
+// grows a little every iteration. The primal test takes at least the step that this growth
+// allows: no primal step is zero, so the objective moves every iteration and a degenerate vertex
+// cannot be cycled at (the dual method perturbs its costs after a run of zero steps instead).
 // Every EXPAND FREQUENCY iterations, and whenever the basis is factorized afresh, the share starts
 // again from its lower end and what slipped is cleaned up: nonbasic variables return to their
 // bounds exactly (the caller recomputes the basic ones) and reduced costs of the wrong sign are

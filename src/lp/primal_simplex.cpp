@@ -154,11 +154,9 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
       return kExitUnbounded;
     }
     const double delta = direction * step.step;
+    const double gain = s.phase == 2 ? s.d[q] * delta : 0.0;
+    if (s.phase == 2 && std::fabs(objective + gain) > settings.unbounded_objective) return kExitUnbounded;
     bool updated = true;  // the factors took the basis change (a bound flip needs none)
-    if (s.phase == 2) {
-      objective += s.d[q] * delta;
-      if (std::fabs(objective) > settings.unbounded_objective) return kExitUnbounded;
-    }
     s.step_last = step.step;
     s.pivot_last = step.flip ? 0.0 : s.column.value[step.position];
     if (step.flip) {
@@ -186,6 +184,7 @@ int run_primal(SimplexState& s, const SimplexSettings& settings, Units& units) {
     }
     // Factors that cannot take a single update are requested again in a row.
     if (updated) refactors_in_a_row = 0;
+    objective += gain;
     fresh = false;
     advance_expand(s, settings);
     ++s.counters.iterations;

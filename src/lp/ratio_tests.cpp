@@ -2,7 +2,8 @@
 // anti-degeneracy procedure, the entering variable's own bound (a bound flip), and in phase 1
 // infeasible basics that block where they become feasible. Dual: Harris two-pass with the working
 // optimality tolerance and bound flipping, passing boxed candidates while the dual objective keeps
-// improving. Each takes at least the step that the growth of the working tolerance allows.
+// improving. The primal tests take at least the step that the growth of the working tolerance
+// allows; the dual test reports a zero step, which its caller counts toward perturbing costs.
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -59,9 +60,11 @@ void take_least_step(const SimplexState& s, PrimalStep& out, int direction, cons
 // dual step is zero.
 bool zero_wrong_sign(SimplexState& s, int q, double slack) {
   if (slack > 0.0) return false;
-  s.cost[q] -= s.d[q];
-  s.d[q] = 0.0;
-  if (slack < 0.0) s.costs_shifted = true;
+  if (slack < 0.0) {
+    s.cost[q] -= s.d[q];
+    s.d[q] = 0.0;
+    s.costs_shifted = true;
+  }
   return true;
 }
 
