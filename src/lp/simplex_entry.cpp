@@ -71,11 +71,12 @@ bool prepare_basis(SimplexState& s, const ProblemSlot& slot, const SimplexSettin
 }
 
 // Solves the working problem from the prepared basis: the primal method from a primal feasible
-// basis, the dual method otherwise (after its phase 1 when reduced costs have the wrong sign, and
-// on costs perturbed at once from a cold start, where degeneracy is to be expected); then takes
-// perturbations and shifts away and cleans up with whichever method the remaining
-// infeasibilities call for. An infeasible problem always ends with a primal phase 1, so that its
-// duals are those of the sum of infeasibilities.
+// basis, the dual method otherwise; then takes perturbations and shifts away and cleans up with
+// whichever method the remaining infeasibilities call for. Reduced costs of the wrong sign at a
+// cold start get the dual phase 1, and the costs are perturbed at once, since degeneracy is to be
+// expected there; a warm start, close to an optimum, shifts the few costs its basis leaves of the
+// wrong sign instead. An infeasible problem always ends with a primal phase 1, so that its duals
+// are those of the sum of infeasibilities.
 int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Units& units, bool cold) {
   if (!s.factors_valid) {
     s.duals_current = false;  // fresh factors are there to recompute everything from
@@ -104,7 +105,7 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     if (s.ninf == 0) {
       code = run_primal(s, settings, units);
     } else {
-      if (wrong_sign > 0) {
+      if (cold && round == 0 && wrong_sign > 0) {
         // The auxiliary problem is feasible: an infeasible verdict there can only be numerical,
         // and shifted costs take over as they do after a stall.
         code = run_dual_phase_one(s, settings, units);
