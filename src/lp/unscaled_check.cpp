@@ -93,10 +93,11 @@ void reset_tolerances(SimplexState& s, const SimplexSettings& settings) {
   s.tolerances_changed = false;
 }
 
-// Primal: basic columns against their bounds (nonbasic ones sit on theirs), every row's activity
-// from the column values against its limits. Dual: every nonbasic reduced cost (as the duals of
-// the final basis give it) against its variable's state. Each value is first screened against
-// the absolute tolerances alone, which is all a solution within tolerance costs.
+// Primal: every column against its bounds (a nonbasic one may have slipped off them within its
+// working tolerance), every row's activity from the column values against its limits. Dual: every
+// nonbasic reduced cost (as the duals of the final basis give it) against its variable's state.
+// Each value is first screened against the absolute tolerances alone, which is all a solution
+// within tolerance costs.
 //
 // With `polish`, a solution within the tolerances is also looked at more closely: a basic value
 // beyond its bound or a reduced cost of the wrong sign puts the objective off by up to the
@@ -115,12 +116,11 @@ TrueUnitCheck tighten_unscaled_violations(SimplexState& s, const SimplexSettings
     s.primal_tol[j] = std::min(s.primal_tol[j], primal_level);
     ++check.polish;
   };
-  for (int p = 0; p < s.m; ++p) {
-    const int j = s.head[p];
-    if (j >= s.n) continue;
+  for (int j = 0; j < s.n; ++j) {
     const double violation = beyond_bounds(s, j, s.x[j]);
+    if (!(violation > 0.0)) continue;
     if (violation * s.scale[j] > ftol && tighten_primal(s, j, ftol)) ++check.primal;
-    else if (violation > 0.0) polish_primal(j, violation, std::fabs(s.x[j]));
+    else if (s.state[j] == kBasicVar) polish_primal(j, violation, std::fabs(s.x[j]));
   }
   for (int i = 0; i < s.m; ++i) {
     const int j = s.n + i;
