@@ -11,14 +11,17 @@
 namespace tarvo::driver {
 namespace {
 
-constexpr std::array<std::string_view, 16> kUpperKeywords = {
-    "ISTRAT  ", "NSAMPLES", "NZROWS  ", "MAXIT   ", "IWRITE  ", "IBUG    ", "ISCRATCH", "IRESAMP ",
-    "IGMS    ", "IREG    ", "RHO     ", "TOLBEN  ", "TOLW    ", "IAPPR   ", "MAXTIME ", "ISEED   "};
+constexpr int kParamCount = 18;
 
-constexpr std::array<std::string_view, 16> kEchoLabels = {
+constexpr std::array<std::string_view, kParamCount> kUpperKeywords = {
+    "ISTRAT  ", "NSAMPLES", "NZROWS  ", "MAXIT   ", "IWRITE  ", "IBUG    ", "ISCRATCH", "IRESAMP ",
+    "IGMS    ", "IREG    ", "RHO     ", "TOLBEN  ", "TOLW    ", "IAPPR   ", "MAXTIME ", "ISEED   ",
+    "NCUTS   ", "NTHREADS"};
+
+constexpr std::array<std::string_view, kParamCount> kEchoLabels = {
     "istrat    = ", "nsamples  = ", "nzrows    = ", "maxit     = ", "iwrite    = ", "ibug      = ",
     "iscratch  = ", "iresamp   = ", "igms      = ", "ireg      = ", "rho       = ", "tolben    = ",
-    "tolw      = ", "iappr     = ", "maxtime   = ", "iseed     = "};
+    "tolw      = ", "iappr     = ", "maxtime   = ", "iseed     = ", "ncuts     = ", "nthreads  = "};
 
 constexpr double kSmallestRho = 1.0e-6;
 
@@ -50,6 +53,8 @@ int* int_param(RunParams& p, int k) {
     case 10: return &p.ireg;
     case 14: return &p.iappr;
     case 16: return &p.iseed;
+    case 17: return &p.ncuts;
+    case 18: return &p.nthreads;
     default: return nullptr;
   }
 }
@@ -98,7 +103,7 @@ RecordRead read_param_record(LineReader& reader, double& value, std::string& key
 }  // namespace
 
 int run_param_index(std::string_view key) {
-  for (int k = 0; k < 16; ++k) {
+  for (int k = 0; k < kParamCount; ++k) {
     if (key == kUpperKeywords[k]) return k + 1;
     if (key == lower_case(kUpperKeywords[k])) return k + 1;
   }
@@ -142,7 +147,7 @@ void echo_run_params(Units& units, int unit, const RunParams& params) {
   RunParams copy = params;
   write_free(units, unit, "parameters: ");
   write_free(units, unit);
-  for (int k = 1; k <= 16; ++k) {
+  for (int k = 1; k <= kParamCount; ++k) {
     if (const double* real = real_param(copy, k)) {
       write_free(units, unit, kEchoLabels[k - 1], *real);
     } else {

@@ -14,15 +14,6 @@ namespace {
 constexpr double kPointBasisPivots = 10.0;
 constexpr double kRestartCost = 5.0;
 
-// The scenario probability of row k, multiplied in block order from 1.0 as the solve forms it.
-double row_probability(const Context& ctx, const Evaluation& ev, int k) {
-  double p = 1.0;
-  for (int b = 1; b <= ev.nblocks; ++b) {
-    p *= ctx.store.probs[ctx.store.prob_start[b] + table_entry(ev, k, b) - 1];
-  }
-  return p;
-}
-
 // Whether the next pass restarts each point from its own basis, after a pass that took `average`
 // pivots per solve.
 void choose_restart(Evaluation& ev, double average) {
