@@ -85,6 +85,8 @@ void size_chains(Evaluation& ev, const Context& ctx) {
   for (int c = 0; c < count; ++c) {
     Chain& chain = ev.chains[c];
     size_work(chain.work, ev, ctx.model);
+    chain.acc_primal.assign(ev.n2 + ev.m2 + 1, 0.0);
+    chain.acc_duals.assign(ev.n2 + ev.m2 + 1, 0.0);
     if (c > 0) lp::hold_problem(chain.held, ctx.optimizer.slot[lp::kSubproblemSlot]);
     chain.startflag = 0;
   }

@@ -82,6 +82,8 @@ struct SolveWork {
 struct Chain {
   lp::HeldProblem held;  // chains 1, 2, ...: the subproblem, its basis, factors and options
   SolveWork work;
+  std::vector<double> acc_primal;  // [1..n2+m2] the chain's share of the report accumulators
+  std::vector<double> acc_duals;   // [1..m2+n2]
   int startflag = 1;     // 0 until the chain's first solve, which then starts cold
   int first = 0;         // positions first..last of ev.order in this pass
   int last = 0;

@@ -92,20 +92,38 @@ double collect_weight(const Context& ctx, const Evaluation& ev, const PassPlan& 
   }
 }
 
-void collect_solution(const Context& ctx, Evaluation& ev, const PassPlan& plan, int k,
-                      const SolveWork& work) {
+// Adds point k's solution, still in the chain's work, to the chain's accumulators.
+void collect_solution(const Context& ctx, const Evaluation& ev, const PassPlan& plan, int k,
+                      Chain& chain) {
+  const SolveWork& work = chain.work;
   const int size = ev.n2 + ev.m2;
   if (plan.collect == CollectRule::base_copy) {
     if (k != 1) return;
-    std::copy(work.primal.begin() + 1, work.primal.begin() + 1 + size, ev.acc_primal.begin() + 1);
-    std::copy(work.duals.begin() + 1, work.duals.begin() + 1 + size, ev.acc_duals.begin() + 1);
+    std::copy(work.primal.begin() + 1, work.primal.begin() + 1 + size, chain.acc_primal.begin() + 1);
+    std::copy(work.duals.begin() + 1, work.duals.begin() + 1 + size, chain.acc_duals.begin() + 1);
     return;
   }
   const double w = collect_weight(ctx, ev, plan, k, work);
   if (w == 0.0) return;
   for (int i = 1; i <= size; ++i) {
-    ev.acc_primal[i] += w * work.primal[i];
-    ev.acc_duals[i] += w * work.duals[i];
+    chain.acc_primal[i] += w * work.primal[i];
+    chain.acc_duals[i] += w * work.duals[i];
+  }
+}
+
+bool collecting(const Evaluation& ev, const PassPlan& plan) {
+  return ev.collect == 1 && plan.collect != CollectRule::none;
+}
+
+// The chains' accumulators into the evaluation's, chain after chain.
+void gather_collected(Evaluation& ev, int chains) {
+  const int size = ev.n2 + ev.m2;
+  for (int c = 0; c < chains; ++c) {
+    const Chain& chain = ev.chains[c];
+    for (int i = 1; i <= size; ++i) {
+      ev.acc_primal[i] += chain.acc_primal[i];
+      ev.acc_duals[i] += chain.acc_duals[i];
+    }
   }
 }
 
@@ -144,9 +162,7 @@ int solve_point(const Context& ctx, Evaluation& ev, const PassPlan& plan, int c,
     ev.point_basis_kept[k] = status != kInfeasible;
   }
   store_point(ev, plan, k, chain.work, status);
-  if (ev.collect == 1 && plan.collect != CollectRule::none && status != kInfeasible) {
-    collect_solution(ctx, ev, plan, k, chain.work);
-  }
+  if (collecting(ev, plan) && status != kInfeasible) collect_solution(ctx, ev, plan, k, chain);
   return status;
 }
 
@@ -168,6 +184,7 @@ void run_chain(const Context& ctx, Evaluation& ev, const PassPlan& plan, const P
     const int k = ev.order[shape.backwards ? chain.last - i : chain.first + i];
     if (shape.reorder && previous != 0 && rows_equal(ev, previous, k)) {
       copy_point(ev, plan, previous, k);
+      if (collecting(ev, plan)) collect_solution(ctx, ev, plan, k, chain);
       ++chain.reused;
       continue;
     }
@@ -217,8 +234,7 @@ int pass_threads(const Context& ctx, const Evaluation& ev, int chains) {
 // caller's start flag, the others with the optimizer's options of the moment.
 PassShape prepare_chains(const Context& ctx, Evaluation& ev, const PassPlan& plan, int startflag) {
   PassShape shape;
-  const bool collecting = ev.collect == 1;
-  shape.reorder = plan.visit != Visit::table && !collecting;
+  shape.reorder = plan.visit != Visit::table;
   if (shape.reorder) {
     order_points(ctx, ev, plan);
     shape.backwards = ev.visit_backwards;
@@ -226,7 +242,7 @@ PassShape prepare_chains(const Context& ctx, Evaluation& ev, const PassPlan& pla
   } else {
     for (int k = 1; k <= plan.rows; ++k) ev.order[k] = k;
   }
-  shape.chains = collecting ? 1 : chain_count(plan.rows);
+  shape.chains = chain_count(plan.rows);
   for (int c = 0; c < shape.chains; ++c) {
     Chain& chain = ev.chains[c];
     chain.first = static_cast<int>(static_cast<long long>(plan.rows) * c / shape.chains) + 1;
@@ -234,6 +250,10 @@ PassShape prepare_chains(const Context& ctx, Evaluation& ev, const PassPlan& pla
     chain.stop_point = chain.stop_status = 0;
     chain.solves = chain.pivots = chain.reused = 0;
     if (c > 0) chain.held.options = ctx.optimizer.options;
+    if (collecting(ev, plan)) {
+      std::fill(chain.acc_primal.begin(), chain.acc_primal.end(), 0.0);
+      std::fill(chain.acc_duals.begin(), chain.acc_duals.end(), 0.0);
+    }
   }
   ev.chains[0].startflag = startflag;
   return shape;
@@ -332,6 +352,7 @@ int solve_points(const Context& ctx, Evaluation& ev, const PassPlan& plan, int& 
   if (failed < 0 && !settle_first_infeasible(ctx, ev, plan, shape.chains)) failed = 0;
   startflag = ev.chains[0].startflag;
   count_work(ev, shape.chains);
+  if (collecting(ev, plan)) gather_collected(ev, shape.chains);
   clock_interval(ctx.clock, &ctx.clock.subproblem);
   write_point_lines(ctx, ev, plan);
   return failed >= 0 ? report_failure(ctx, ev, failed) : kOk;

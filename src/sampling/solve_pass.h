@@ -10,8 +10,8 @@
 // consecutive points, each solved one point after the other on its own subproblem; chains run on
 // as many threads as the run allows, and since neither the chains nor their warm starts depend on
 // the thread count, neither do the results. Every point's cost and dual product are stored, and
-// the estimators then run in table order. Only the final re-evaluation, which collects the
-// second-stage solution for the report, solves in table order on one chain.
+// the estimators then run in table order. The second-stage solution that the final
+// re-evaluation collects for the report is summed per chain, then chain after chain.
 #include "sampling/evaluation.h"
 
 namespace tarvo::sampling {

@@ -1,4 +1,5 @@
 #include "sampling/cut.h"
+#include "sampling/cut_groups.h"
 #include "sampling/sample_tables.h"
 #include "sampling/solve_pass.h"
 #include "sampling/strategies.h"
@@ -29,13 +30,17 @@ void choose_restart(Evaluation& ev, double average) {
 
 void estimate_universe(const Context& ctx, Evaluation& ev) {
   clear_cut(ev);
+  const bool by_groups = grouped(ev, ev.nsamples);
+  if (by_groups) clear_groups(ev);
   for (int k = 1; k <= ev.nsamples; ++k) {
     const double p = row_probability(ctx, ev, k);
     ev.cut.objs += p * ev.costs[k];
     const double* u = point_u(ev, k);
     for (int j = 1; j <= ev.n1; ++j) ev.cut.gus[j] -= p * u[j];
+    if (by_groups) add_to_group(ev, k, p, ev.costs[k], u);
   }
   close_cut(ctx, ev);
+  if (by_groups) close_groups(ctx, ev);
 }
 
 int evaluniv(const Context& ctx, Evaluation& ev, int& startflag) {
