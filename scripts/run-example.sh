@@ -9,9 +9,16 @@ cmake -S "$root" -B "$root/build/release" -DCMAKE_BUILD_TYPE=Release -DTARVO_TES
   -DTARVO_BENCH=OFF >/dev/null
 cmake --build "$root/build/release" --target tarvo -j2 >/dev/null
 work=$(mktemp -d "${TMPDIR:-/tmp}/tarvo-$name.XXXXXX")
-cp "$root/examples/$name"/MODEL.* "$root/examples/$name"/SIMPLEX.SPC "$work"
-cd "$work"
-"$root/build/release/tarvo" </dev/null
+if [ -f "$root/examples/$name/MODEL.COR" ]; then
+  cp "$root/examples/$name"/MODEL.* "$root/examples/$name"/SIMPLEX.SPC "$work"
+  cd "$work"
+  "$root/build/release/tarvo" </dev/null
+else
+  # Files under their own names (examples/dakota): run by path.
+  core=$(ls "$root/examples/$name"/*.cor)
+  cd "$work"
+  "$root/build/release/tarvo" "${core%.cor}"
+fi
 echo
 echo "== $work/MODEL.SOL"
 cat MODEL.SOL

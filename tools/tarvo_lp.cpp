@@ -1,14 +1,14 @@
 // tarvo-lp FILE.mps: reads a fixed-column MPS file into a problem slot, solves it cold with the
 // simplex optimizer and prints the exit status, the objective (12 significant digits), the
 // iterations and the solve time.
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "common/units.h"
 #include "input/mps_reader.h"
+#include "input/mps_sizes.h"
 #include "lp/options.h"
 #include "lp/problem_slot.h"
 #include "lp/simplex.h"
@@ -16,36 +16,6 @@
 namespace {
 
 using namespace tarvo;
-
-// Rows, columns and matrix entries of the file, counted from its ROWS and COLUMNS sections so
-// that the slot can be sized before the read.
-struct FileSizes {
-  int rows = 0;
-  int columns = 0;
-  int entries = 0;
-};
-
-FileSizes count_sizes(const std::string& path) {
-  FileSizes sizes;
-  std::ifstream in(path);
-  std::string line, section, last_column;
-  while (std::getline(in, line)) {
-    if (line.empty() || line[0] == '*') continue;
-    if (line[0] != ' ') {
-      std::istringstream(line) >> section;
-      continue;
-    }
-    if (section == "ROWS") {
-      ++sizes.rows;
-    } else if (section == "COLUMNS") {
-      const std::string column = line.size() > 4 ? line.substr(4, 8) : "";
-      if (column != last_column) ++sizes.columns;
-      last_column = column;
-      sizes.entries += line.size() > 36 ? 2 : 1;
-    }
-  }
-  return sizes;
-}
 
 const char* status_text(int inform) {
   switch (inform) {
@@ -65,19 +35,21 @@ int main(int argc, char** argv) {
     return 2;
   }
   const std::string path = argv[1];
-  const FileSizes sizes = count_sizes(path);
+  const input::MpsSizes sizes = input::count_mps_sizes(path);
+  const auto fit = [](long long count) { return static_cast<int>(std::min<long long>(count, 1 << 28)); };
+  const int rows = fit(sizes.rows), columns = fit(sizes.columns), entries = fit(sizes.entries);
   lp::Options options;
   Units units;
   lp::apply_defaults(options, units, 1);
-  options.ival[lp::kRowLimit] = sizes.rows + 1;
-  options.ival[lp::kColumnLimit] = sizes.columns + 1;
-  options.ival[lp::kElementsLimit] = sizes.entries + 1;
-  options.ival[lp::kIterationLimit] = 10 * (sizes.rows + sizes.columns) + 1000;
+  options.ival[lp::kRowLimit] = rows + 1;
+  options.ival[lp::kColumnLimit] = columns + 1;
+  options.ival[lp::kElementsLimit] = entries + 1;
+  options.ival[lp::kIterationLimit] = 10 * (rows + columns) + 1000;
   options.ival[lp::kPrintFile] = 0;
   options.ival[lp::kSummaryFile] = kConsoleUnit;
   options.ival[lp::kSummaryFrequency] = 0;
   lp::ProblemSlot slot;
-  lp::allocate_slot(slot, sizes.rows + 1, sizes.columns + 1, sizes.entries + 1);
+  lp::allocate_slot(slot, rows + 1, columns + 1, entries + 1);
   const input::MpsReadResult read = input::read_mps_file(slot, options, units, path, 41, 0, 0);
   if (read.status != input::InputStatus::ok || read.errors > 0) {
     std::printf("could not read %s (%d errors)\n", path.c_str(), read.errors);

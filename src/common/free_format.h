@@ -63,8 +63,10 @@ struct FreeItem {
 
 // Splits one line into items. `ended` is set when a slash ended the record. Returns false for a
 // malformed line: an unterminated quote, text glued to a closing quote, a repeat count of 0 or
-// above 100000.
-bool split_free_items(std::string_view line, std::vector<FreeItem>& items, bool& ended);
+// above 100000. A read stops at `wanted` items, as a read of a list takes no more than the list
+// holds: the rest of the line is neither looked at nor expanded.
+bool split_free_items(std::string_view line, std::vector<FreeItem>& items, bool& ended,
+                      std::size_t wanted = static_cast<std::size_t>(-1));
 
 // Number items: integer, fixed or exponent form with E, e, D or d, or a bare signed exponent
 // ("1.5+3"); false when the text is no number or overflows (values below the smallest denormal

@@ -1,4 +1,6 @@
 // Free-form input: a line cut into items.
+#include <algorithm>
+
 #include "common/free_format.h"
 #include "common/number_text.h"
 
@@ -53,7 +55,8 @@ bool read_repeat(std::string_view line, std::size_t& pos, long long& count) {
   return true;
 }
 
-bool read_item(std::string_view line, std::size_t& pos, std::vector<FreeItem>& items) {
+bool read_item(std::string_view line, std::size_t& pos, std::vector<FreeItem>& items,
+               std::size_t wanted) {
   long long count = 0;
   if (!read_repeat(line, pos, count)) return false;
   FreeItem item;
@@ -65,18 +68,20 @@ bool read_item(std::string_view line, std::size_t& pos, std::vector<FreeItem>& i
   } else {
     read_bare(line, pos, item.text);
   }
-  items.insert(items.end(), count > 0 ? count : 1, item);
+  const std::size_t copies = count > 0 ? static_cast<std::size_t>(count) : 1;
+  items.insert(items.end(), std::min(copies, wanted - items.size()), item);
   return true;
 }
 
 }  // namespace
 
-bool split_free_items(std::string_view line, std::vector<FreeItem>& items, bool& ended) {
+bool split_free_items(std::string_view line, std::vector<FreeItem>& items, bool& ended,
+                      std::size_t wanted) {
   items.clear();
   ended = false;
   bool awaiting_value = true;  // at the start or after a comma: a further comma means a null item
   std::size_t pos = 0;
-  while (true) {
+  while (items.size() < wanted) {
     while (pos < line.size() && is_blank(line[pos])) ++pos;
     if (pos == line.size()) return true;
     if (line[pos] == '/') {
@@ -89,9 +94,10 @@ bool split_free_items(std::string_view line, std::vector<FreeItem>& items, bool&
       ++pos;
       continue;
     }
-    if (!read_item(line, pos, items)) return false;
+    if (!read_item(line, pos, items, wanted)) return false;
     awaiting_value = false;
   }
+  return true;
 }
 
 bool parse_free_real(std::string_view text, double& value) {

@@ -15,11 +15,22 @@ std::FILE* standard_stream(int unit) {
 // The file a write to a never-opened unit creates.
 std::string default_file_name(int unit) { return "fort." + std::to_string(unit); }
 
+// A missing file of status unknown_input is created empty, then read like an old one.
+std::FILE* open_stream(const std::string& file, OpenStatus status) {
+  if (status == OpenStatus::unknown) return std::fopen(file.c_str(), "w");
+  std::FILE* stream = std::fopen(file.c_str(), "r");
+  if (stream != nullptr || status == OpenStatus::old_file) return stream;
+  std::FILE* created = std::fopen(file.c_str(), "w");
+  if (created == nullptr) return nullptr;
+  std::fclose(created);
+  return std::fopen(file.c_str(), "r");
+}
+
 }  // namespace
 
 bool open_unit(Units& units, int unit, const std::string& file, OpenStatus status) {
   close_unit(units, unit);
-  std::FILE* stream = std::fopen(file.c_str(), status == OpenStatus::old_file ? "r" : "w");
+  std::FILE* stream = open_stream(file, status);
   if (stream == nullptr) return false;
   units.open[unit] = stream;
   return true;
@@ -46,9 +57,10 @@ std::FILE* unit_stream(const Units& units, int unit) {
 }
 
 void write_line(Units& units, int unit, std::string_view text) {
-  if (unit <= 0 || unit == kStdinUnit) return;
   std::FILE* stream = unit_stream(units, unit);
+  if (stream == stdin) return;
   if (stream == nullptr) {
+    if (unit <= 0) return;
     if (!open_unit(units, unit, default_file_name(unit), OpenStatus::unknown)) return;
     stream = units.open[unit];
   }

@@ -1,10 +1,11 @@
 #pragma once
 // Output and input files addressed by unit number, as every report of the run names them.
-// Unit 6 is the console; unit 5 is standard input; a unit <= 0 means "no file" and writes to it
-// (and to unit 5) are dropped; writing to any other unit that was never opened creates the file
-// fort.<unit> in the working directory (that is how the run summary reaches fort.15). A file opened
-// on unit 5 or 6 stands in for standard input or the console until it is closed; the standard
-// streams themselves are never closed.
+// Unit 6 is the console; unit 5 is standard input; a unit <= 0 means "no file". A file opened on
+// any unit, whatever its number, receives the writes to that unit. Without one, writes to a unit
+// <= 0 or to unit 5 are dropped, and writing to any other unit creates the file fort.<unit> in the
+// working directory (that is how the run summary reaches fort.15). A file opened on unit 5 or 6
+// stands in for standard input or the console until it is closed; the standard streams themselves
+// are never closed.
 #include <cstdio>
 #include <map>
 #include <string>
@@ -17,14 +18,15 @@ inline constexpr int kConsoleUnit = 6;
 inline constexpr int kSolutionUnit = 16;  // MODEL.SOL
 inline constexpr int kErrorUnit = 48;     // MODEL.ERR
 
-enum class OpenStatus { old_file, unknown };
+enum class OpenStatus { old_file, unknown, unknown_input };
 
 struct Units {
   std::map<int, std::FILE*> open;
 };
 
 // Opens `file` on `unit`, closing whatever the unit held. With old_file the file must exist and
-// is opened for reading; with unknown it is created or overwritten for writing.
+// is opened for reading; with unknown it is created or overwritten for writing; with
+// unknown_input it is opened for reading, created empty first when missing.
 bool open_unit(Units& units, int unit, const std::string& file, OpenStatus status);
 void close_unit(Units& units, int unit);
 void close_all_units(Units& units);

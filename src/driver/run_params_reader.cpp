@@ -11,17 +11,19 @@
 namespace tarvo::driver {
 namespace {
 
-constexpr int kParamCount = 18;
-
-constexpr std::array<std::string_view, kParamCount> kUpperKeywords = {
+// The sixteen parameters of every run, then irelax, ncuts and nthreads. All but irelax are
+// echoed.
+constexpr int kParams = 19;
+constexpr std::array<std::string_view, kParams> kUpperKeywords = {
     "ISTRAT  ", "NSAMPLES", "NZROWS  ", "MAXIT   ", "IWRITE  ", "IBUG    ", "ISCRATCH", "IRESAMP ",
     "IGMS    ", "IREG    ", "RHO     ", "TOLBEN  ", "TOLW    ", "IAPPR   ", "MAXTIME ", "ISEED   ",
-    "NCUTS   ", "NTHREADS"};
+    "IRELAX  ", "NCUTS   ", "NTHREADS"};
 
-constexpr std::array<std::string_view, kParamCount> kEchoLabels = {
+constexpr std::array<std::string_view, kParams> kEchoLabels = {
     "istrat    = ", "nsamples  = ", "nzrows    = ", "maxit     = ", "iwrite    = ", "ibug      = ",
     "iscratch  = ", "iresamp   = ", "igms      = ", "ireg      = ", "rho       = ", "tolben    = ",
-    "tolw      = ", "iappr     = ", "maxtime   = ", "iseed     = ", "ncuts     = ", "nthreads  = "};
+    "tolw      = ", "iappr     = ", "maxtime   = ", "iseed     = ", "",             "ncuts     = ",
+    "nthreads  = "};
 
 constexpr double kSmallestRho = 1.0e-6;
 
@@ -53,8 +55,9 @@ int* int_param(RunParams& p, int k) {
     case 10: return &p.ireg;
     case 14: return &p.iappr;
     case 16: return &p.iseed;
-    case 17: return &p.ncuts;
-    case 18: return &p.nthreads;
+    case 17: return &p.irelax;
+    case 18: return &p.ncuts;
+    case 19: return &p.nthreads;
     default: return nullptr;
   }
 }
@@ -75,17 +78,17 @@ double* real_param(RunParams& p, int k) {
 enum class RecordRead { ok, end_of_file, error };
 
 RecordRead read_param_record(LineReader& reader, double& value, std::string& keyword) {
-  int wanted = 0;  // items read so far in this record
+  constexpr int kItems = 2;
+  int taken = 0;  // items read so far in this record
   std::string line;
   std::vector<FreeItem> items;
-  while (wanted < 2) {
+  while (taken < kItems) {
     if (!next_line(reader, line)) return RecordRead::end_of_file;
     bool ended = false;
-    if (!split_free_items(line, items, ended)) return RecordRead::error;
+    if (!split_free_items(line, items, ended, kItems - taken)) return RecordRead::error;
     for (const FreeItem& item : items) {
-      if (wanted == 2) break;
       if (!item.null) {
-        if (wanted == 0) {
+        if (taken == 0) {
           double number = 0.0;
           if (item.quoted || !parse_free_real(item.text, number)) return RecordRead::error;
           value = number;
@@ -93,7 +96,7 @@ RecordRead read_param_record(LineReader& reader, double& value, std::string& key
           keyword = keyword8(item.text);
         }
       }
-      ++wanted;
+      ++taken;
     }
     if (ended) break;
   }
@@ -103,7 +106,7 @@ RecordRead read_param_record(LineReader& reader, double& value, std::string& key
 }  // namespace
 
 int run_param_index(std::string_view key) {
-  for (int k = 0; k < kParamCount; ++k) {
+  for (int k = 0; k < kParams; ++k) {
     if (key == kUpperKeywords[k]) return k + 1;
     if (key == lower_case(kUpperKeywords[k])) return k + 1;
   }
@@ -123,9 +126,9 @@ bool set_run_param(RunParams& params, int k, double value) {
   return true;
 }
 
-bool read_run_params(Units& units, RunParams& params) {
+bool read_run_params(Units& units, RunParams& params, const std::string& file_name) {
   params = RunParams{};
-  if (!open_unit(units, kInputParamsUnit, "MODEL.INP", OpenStatus::old_file)) return true;
+  if (file_name.empty() || !open_unit(units, kInputParamsUnit, file_name, OpenStatus::old_file)) return true;
   LineReader reader{unit_stream(units, kInputParamsUnit)};
   double value = 0.0;
   std::string keyword(8, ' ');
@@ -143,11 +146,29 @@ bool read_run_params(Units& units, RunParams& params) {
   return ok;
 }
 
+bool sampled_strategy(int istrat) {
+  return istrat >= 2 && istrat <= 11 && istrat != 4 && istrat != 5;
+}
+
+bool run_params_usable(Units& units, int log_unit, int err_unit, const RunParams& params) {
+  const char* message = nullptr;
+  if (params.nzrows < 1) {
+    message = "error: nzrows must be at least 1";
+  } else if (params.nsamples < 1 && sampled_strategy(params.istrat)) {
+    message = "error: nsamples must be at least 1 for a sampled strategy";
+  }
+  if (message == nullptr) return true;
+  write_free(units, log_unit, message);
+  write_free(units, err_unit, message);
+  return false;
+}
+
 void echo_run_params(Units& units, int unit, const RunParams& params) {
   RunParams copy = params;
   write_free(units, unit, "parameters: ");
   write_free(units, unit);
-  for (int k = 1; k <= kParamCount; ++k) {
+  for (int k = 1; k <= kParams; ++k) {
+    if (kEchoLabels[k - 1].empty()) continue;
     if (const double* real = real_param(copy, k)) {
       write_free(units, unit, kEchoLabels[k - 1], *real);
     } else {

@@ -9,7 +9,7 @@ sampling::Context sampling_context(RunState& run) {
                            run.optimizer,
                            run.model,
                            run.store,
-                           run.params.iscratch,
+                           run.log_unit,
                            kErrorUnit,
                            run.solve.iterations,
                            run.solve.master_primal,

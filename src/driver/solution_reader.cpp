@@ -15,7 +15,7 @@ constexpr std::size_t kNameLength = 12;
 bool parse_solution_record(std::string_view record, std::string& name, double& value) {
   std::vector<FreeItem> items;
   bool ended = false;
-  if (!split_free_items(record, items, ended) || items.size() < 2) return false;
+  if (!split_free_items(record, items, ended, 2) || items.size() < 2) return false;
   if (items[0].null || items[1].null || items[1].quoted) return false;
   if (!parse_free_real(items[1].text, value)) return false;
   name = items[0].text.substr(0, kNameLength);

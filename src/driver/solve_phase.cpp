@@ -5,6 +5,7 @@
 #include "benders/benders_loop.h"
 #include "common/free_format.h"
 #include "common/record_format.h"
+#include "driver/run_params_reader.h"
 #include "driver/solution_reader.h"
 #include "driver/solution_report.h"
 #include "input/decompose.h"
@@ -31,7 +32,7 @@ const char* start_message(int istrat) {
 
 void list_expected_values(RunState& run) {
   const input::OutcomeStore& store = run.store;
-  const int log = run.params.iscratch;
+  const int log = run.log_unit;
   write_free(run.units, log, " expected values:");
   for (int e = 1; e <= store.entries; ++e) {
     write_free(run.units, log, e, store.kind[e], store.location[e], store.expected[e]);
@@ -68,7 +69,7 @@ SolutionReport report_of(RunState& run, int strategy) {
 // Work counts of the run, for a user comparing settings and for the benchmark table.
 void write_run_statistics(RunState& run) {
   Units& u = run.units;
-  const int log = run.params.iscratch;
+  const int log = run.log_unit;
   write_free(u, log, "run statistics:");
   write_free(u, log, "subproblem solves: ", run.evaluation.lp_solves);
   write_free(u, log, "subproblem pivots: ", run.evaluation.lp_pivots);
@@ -92,13 +93,11 @@ bool run_strategy(RunState& run, int s, int ireg) {
   return true;
 }
 
-bool sampled(int istrat) { return istrat >= 2 && istrat <= 11 && istrat != 4 && istrat != 5; }
-
 // Cut groups of a normal run's master; a strategy without fixed points says that it ignores ncuts.
 int cut_groups(RunState& run) {
   if (run.evaluation_run) return 1;
   if (run.params.ncuts != 1 && sampling::grouped_points(run.params, run.store) == 0.0) {
-    write_free(run.units, run.params.iscratch,
+    write_free(run.units, run.log_unit,
                "ncuts ignored: the strategy draws new outcomes, one cut per iteration");
   }
   return sampling::cut_group_count(run.params, run.store);
@@ -109,7 +108,7 @@ int cut_groups(RunState& run) {
 bool prepare_solve(RunState& run) {
   lp::ProblemSlot& master = run.optimizer.slot[lp::kMasterSlot];
   const int groups = cut_groups(run);
-  const input::MessageUnits to{run.params.iscratch, kErrorUnit};
+  const input::MessageUnits to{run.log_unit, run.message_unit};
   if (groups > 1 && input::failed(input::add_cut_groups(master, run.model, groups, run.units, to))) {
     return false;
   }
@@ -128,7 +127,7 @@ bool prepare_solve(RunState& run) {
 
 bool solve_stochastic_program(RunState& run) {
   Units& u = run.units;
-  const int log = run.params.iscratch;
+  const int log = run.log_unit;
   const int istrat = run.params.istrat;
   if (run.params.ibug >= kDebugListingLevel) input::write_outcome_dump(run.store, u, log);
   clock_interval(run.clock, &run.clock.setup);
@@ -153,8 +152,8 @@ bool evaluate_solution_file(RunState& run) {
   Units& u = run.units;
   const int istrat = run.params.istrat;
   std::vector<double> x;
-  open_unit(u, kSolutionInputUnit, "MODEL.STA", OpenStatus::old_file);
-  read_solution(u, kSolutionInputUnit, run.params.iscratch, run.optimizer.slot[lp::kMasterSlot],
+  open_unit(u, kSolutionInputUnit, run.request.solution_file, OpenStatus::unknown_input);
+  read_solution(u, kSolutionInputUnit, run.log_unit, run.optimizer.slot[lp::kMasterSlot],
                 run.model.n1, x);
   close_unit(u, kSolutionInputUnit);
   clock_interval(run.clock, &run.clock.setup);
@@ -165,8 +164,9 @@ bool evaluate_solution_file(RunState& run) {
     return false;
   }
   benders::SolveState& st = run.solve;
-  const double spread = sampled(istrat) ? kConfidenceFactor * std::sqrt(run.evaluation.cut.variance)
-                                        : 0.0;
+  const double spread = sampled_strategy(istrat)
+                            ? kConfidenceFactor * std::sqrt(run.evaluation.cut.variance)
+                            : 0.0;
   st.lower_end = st.master_objective - spread;
   st.upper_end = st.master_objective + spread;
   write_solution_report(u, kSolutionUnit, report_of(run, istrat));

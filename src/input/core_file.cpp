@@ -44,9 +44,9 @@ InputStatus check_core_problem(lp::ProblemSlot& slot, int slot_number, const Mps
 
 InputStatus read_core_problem(lp::ProblemSlot& core, const lp::Options& options, Units& units,
                               int print_unit, int summary_unit, const MessageUnits& to,
-                              int iwrite, MpsReadResult& read) {
-  const std::string file_name = "MODEL.COR";
-  read = read_mps_file(core, options, units, file_name, kCoreUnit, print_unit, summary_unit);
+                              int iwrite, MpsReadResult& read, const std::string& file_name) {
+  read = read_mps_file(core, options, units, file_name, kCoreUnit, print_unit, summary_unit,
+                       to.err);
   if (read.status == InputStatus::missing_file) report_no_file(units, to, file_name);
   const InputStatus status = check_core_problem(core, lp::kCoreSlot, read, file_name, units, to);
   if (!failed(status) && iwrite >= kDumpLevel) {

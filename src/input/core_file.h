@@ -20,11 +20,13 @@ InputStatus check_core_problem(lp::ProblemSlot& slot, int slot_number, const Mps
                                const std::string& file_name, Units& units,
                                const MessageUnits& to);
 
-// The driver's step: MODEL.COR on unit 24 into the core slot, the check above and, with
-// iwrite >= 6, the dump MODEL.P00 on unit 27. `read` receives the reader's result (the RHS set
-// name is needed by the stochastic file).
+// The driver's step: the core file (MODEL.COR unless named) on unit 24 into the core slot, the
+// check above and, with iwrite >= 6, the dump MODEL.P00 on unit 27. The reader's faults also go
+// to `to.err`. `read` receives the reader's result (the RHS set name is needed by the stochastic
+// file).
 InputStatus read_core_problem(lp::ProblemSlot& core, const lp::Options& options, Units& units,
                               int print_unit, int summary_unit, const MessageUnits& to,
-                              int iwrite, MpsReadResult& read);
+                              int iwrite, MpsReadResult& read,
+                              const std::string& file_name = "MODEL.COR");
 
 }  // namespace tarvo::input

@@ -68,6 +68,11 @@ bool find_stages(const lp::ProblemSlot& core, const StageNames& names, Decomposi
   if (!found(dec.j2, names.stage2_column)) return false;
   dec.i1 = find_row(core, names.stage1_row);
   if (!found(dec.i1, names.stage1_row)) return false;
+  // A first stage of bounds and costs only names its stage-1 row again for stage 2.
+  if (names.stage2_row == names.stage1_row) {
+    dec.i2 = std::max(dec.i1, 2);
+    return true;
+  }
   dec.i2 = find_row(core, names.stage2_row, dec.i1 + 1);
   return found(dec.i2, names.stage2_row);
 }

@@ -14,7 +14,8 @@ namespace tarvo::input {
 // Sizes B (room for every element of the core), its column starts and h, once, for this core.
 void allocate_decomposition(Decomposition& dec, const lp::ProblemSlot& core);
 
-// Finds the stage boundaries, checks the staircase form and the capacities (messages in this
+// Finds the stage boundaries (when the time file names the same row for both stages, the first
+// stage has no rows of its own and the second starts at that row), checks the staircase form and the capacities (messages in this
 // order: master rows, B nonzeros, master nonzeros, subproblem nonzeros), builds master, B, h and
 // subproblem and writes the "Successful decomposition:" report to the log unit.
 InputStatus decompose(const lp::ProblemSlot& core, const StageNames& names, int nzrows,

@@ -7,12 +7,14 @@
 
 namespace tarvo::input {
 
-// The four names of the time file.
+// The four names of the time file, and the names of its two periods (blank when not given).
 struct StageNames {
   lp::Name8 stage1_row;
   lp::Name8 stage2_row;
   lp::Name8 stage1_column;
   lp::Name8 stage2_column;
+  lp::Name8 stage1_period;
+  lp::Name8 stage2_period;
 };
 
 struct Decomposition {

@@ -90,7 +90,7 @@ void apply_bound(lp::ProblemSlot& slot, int j, BoundType type, double value) {
 int find_bound_column(ReadState& state, const lp::Name8& name) {
   const int last = std::min(state.columns, state.slot.nmax);
   return cursor_search_reported(state.slot.names, 1, last, name, state.column_cursor, state.units,
-                                fault_unit(state), state.line.number, state.settings.message_limit);
+                                state.print_unit, state.line.number, state.settings.message_limit);
 }
 
 void read_bound_line(ReadState& state, SetChoice& set, bool& initial) {

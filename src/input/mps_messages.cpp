@@ -12,14 +12,18 @@ void line_message(ReadState& state, std::string_view text) {
   write_if_open(state.units, state.print_unit, text);
 }
 
-int fault_unit(const ReadState& state) {
-  return unit_is_open(state.units, state.print_unit) ? state.print_unit : state.summary_unit;
+// Faults fail the read, so they also reach the run's error file: a user always learns which
+// lines stopped the run, whether or not the optimizer keeps its files.
+void fault_message(ReadState& state, std::string_view text) {
+  write_if_open(state.units, state.print_unit, text);
+  if (state.error_unit != state.print_unit) write_if_open(state.units, state.error_unit, text);
 }
 
-// A faulty line is reported in the print file; when that is closed, where the section messages
-// go, so that a user always learns which lines were wrong.
-void fault_message(ReadState& state, std::string_view text) {
-  write_if_open(state.units, fault_unit(state), text);
+void section_fault(ReadState& state, std::string_view text) {
+  section_message(state, text);
+  if (state.error_unit != state.print_unit && state.error_unit != state.summary_unit) {
+    write_if_open(state.units, state.error_unit, text);
+  }
 }
 
 bool count_fault(ReadState& state, LineFault fault) {
@@ -29,7 +33,7 @@ bool count_fault(ReadState& state, LineFault fault) {
 
 void report_over_capacity(ReadState& state, std::string_view what, int limit, int actual) {
   ++state.result.errors;
-  section_message(state, laid_out("(a, i8, a, i8)", {what, limit, "  Actual number is", actual}));
+  section_fault(state, laid_out("(a, i8, a, i8)", {what, limit, "  Actual number is", actual}));
 }
 
 // An unknown row or column name: the line is skipped.

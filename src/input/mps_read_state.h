@@ -64,6 +64,7 @@ struct ReadState {
   Units& units;
   int print_unit = 0;
   int summary_unit = 0;
+  int error_unit = 0;  // the run's error file: faults are echoed there
   ReaderSettings settings{};
   LineReader reader{};
   MpsLine line{};
@@ -109,11 +110,12 @@ struct SetChoice {
 };
 bool in_chosen_set(const ReadState& state, SetChoice& set, const lp::Name8& wanted);
 
-// Messages (mps_messages.cpp). Section-level ones go to the print and summary files.
+// Messages (mps_messages.cpp). Section-level ones go to the print and summary files, the listing
+// to the print file; faults, which fail the read, also to the error file.
 void section_message(ReadState& state, std::string_view text);
 void line_message(ReadState& state, std::string_view text);
 void fault_message(ReadState& state, std::string_view text);
-int fault_unit(const ReadState& state);
+void section_fault(ReadState& state, std::string_view text);
 bool count_fault(ReadState& state, LineFault fault);  // counts; true while messages may print
 void report_unknown_row(ReadState& state, const lp::Name8& name);
 void report_unknown_name(ReadState& state, LineFault fault, std::string_view what, const lp::Name8& name);

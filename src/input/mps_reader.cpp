@@ -28,19 +28,19 @@ void prepare(ReadState& state) {
 
 void report_endata_missing(ReadState& state) {
   ++state.result.errors;
-  section_message(state, " XXXX  ENDATA card not found");
+  section_fault(state, " XXXX  ENDATA card not found");
 }
 
 void report_back_to_front(ReadState& state, int j) {
   if (!count_fault(state, kBackToFront)) return;
-  section_message(state, laid_out("(a, i7, a, 1p, 2e15.6)", {" XXXX  Bounds back to front on column",
-                                                             j, " :", state.slot.bl[j],
-                                                             state.slot.bu[j]}));
+  section_fault(state, laid_out("(a, i7, a, 1p, 2e15.6)", {" XXXX  Bounds back to front on column",
+                                                           j, " :", state.slot.bl[j],
+                                                           state.slot.bu[j]}));
 }
 
 void report_error_total(ReadState& state) {
-  section_message(state, laid_out("(a, i8)", {" XXXX  Total no. of errors in MPS file",
-                                              state.result.errors}));
+  section_fault(state, laid_out("(a, i8)", {" XXXX  Total no. of errors in MPS file",
+                                            state.result.errors}));
 }
 
 void report_names_selected(ReadState& state) {
@@ -60,11 +60,11 @@ void report_names_selected(ReadState& state) {
 }
 
 void report_fatal_exit(ReadState& state) {
-  section_message(state, " EXIT -- fatal errors in the MPS file");
+  section_fault(state, " EXIT -- fatal errors in the MPS file");
 }
 
 void report_storage_exit(ReadState& state) {
-  section_message(state, " EXIT -- not enough storage to read the MPS file");
+  section_fault(state, " EXIT -- not enough storage to read the MPS file");
 }
 
 // Rows were kept aside while the number of columns was unknown; they follow the columns.
@@ -86,6 +86,13 @@ void store_rows(ReadState& state) {
     slot.xn[j] = 0.0;
   }
   if (state.objective_row > 0) state.result.names.objective = state.row_names[state.objective_row];
+}
+
+int first_marked_integer(const ReadState& state) {
+  for (int j = 1; j <= state.slot.n; ++j) {
+    if (state.slot.reader_work[j] != 0) return j;
+  }
+  return 0;
 }
 
 void check_bound_order(ReadState& state) {
@@ -128,6 +135,7 @@ void read_sections(ReadState& state) {
   if (!card_is(state, "ENDA")) report_endata_missing(state);
   check_bound_order(state);
   store_rows(state);
+  state.result.first_integer_column = first_marked_integer(state);
   if (state.result.errors > 0) report_error_total(state);
   report_names_selected(state);
 }
@@ -138,7 +146,7 @@ void read_sections(ReadState& state) {
 
 MpsReadResult read_mps_file(lp::ProblemSlot& slot, const lp::Options& options, Units& units,
                             const std::string& file_name, int mps_unit, int print_unit,
-                            int summary_unit) {
+                            int summary_unit, int error_unit) {
   if (!open_unit(units, mps_unit, file_name, OpenStatus::old_file)) {
     MpsReadResult missing;
     missing.status = InputStatus::missing_file;
@@ -146,7 +154,8 @@ MpsReadResult read_mps_file(lp::ProblemSlot& slot, const lp::Options& options, U
     return missing;
   }
   mps::ReadState state{.slot = slot, .units = units, .print_unit = print_unit,
-                       .summary_unit = summary_unit, .settings = mps::reader_settings(options)};
+                       .summary_unit = summary_unit, .error_unit = error_unit,
+                       .settings = mps::reader_settings(options)};
   state.reader.file = unit_stream(units, mps_unit);
   mps::prepare(state);
   mps::read_sections(state);

@@ -28,15 +28,17 @@ struct MpsReadResult {
   int ranges_entries = 0;
   int bounds_entries = 0;
   int integer_columns = 0;  // marked integer; counted only, solved as continuous
+  int first_integer_column = 0;  // the first of them in column order, or 0
   int hash_length = 0;
   long long collisions = 0;
 };
 
 // Reads `file_name` on `mps_unit` into the slot. The listing and the messages about single lines
-// go to `print_unit`, section-level messages also to `summary_unit`, each only when open. The
-// slot's loaded flag is left clear; check_core_problem (core_file.h) sets it.
+// go to `print_unit`, section-level messages also to `summary_unit`, each only when open; faults,
+// which fail the read, are also written to `error_unit` when open. The slot's loaded flag is left
+// clear; check_core_problem (core_file.h) sets it.
 MpsReadResult read_mps_file(lp::ProblemSlot& slot, const lp::Options& options, Units& units,
                             const std::string& file_name, int mps_unit, int print_unit,
-                            int summary_unit);
+                            int summary_unit, int error_unit = 0);
 
 }  // namespace tarvo::input

@@ -11,7 +11,7 @@ const lp::Name8 kLagrange = lp::make_name("LAGRANGE");
 
 void report_rhs_card_missing(ReadState& state) {
   ++state.result.errors;
-  section_message(state, " XXXX  RHS card not found");
+  section_fault(state, " XXXX  RHS card not found");
 }
 
 void report_lagrange(ReadState& state) {
@@ -79,8 +79,8 @@ void apply_range(ReadState& state, int row, double range) {
       state.row_upper[row] = as_bound(r);
       break;
     case lp::kRowE:
-      if (range > 0.0) state.row_upper[row] = as_bound(r + size);
-      if (range < 0.0) state.row_lower[row] = as_bound(r - size);
+      state.row_lower[row] = as_bound(range < 0.0 ? r - size : r);
+      state.row_upper[row] = as_bound(range > 0.0 ? r + size : r);
       break;
     default: break;
   }

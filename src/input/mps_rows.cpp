@@ -29,7 +29,7 @@ int row_type_of(std::string_view key) {
 
 void report_garbage_before_name(ReadState& state) {
   ++state.result.errors;
-  section_message(state, " XXXX  Garbage before NAME card");
+  section_fault(state, " XXXX  Garbage before NAME card");
 }
 
 void report_problem_name(ReadState& state) {
@@ -38,7 +38,7 @@ void report_problem_name(ReadState& state) {
 
 void report_rows_card_missing(ReadState& state) {
   ++state.result.errors;
-  section_message(state, " XXXX  ROWS card not found");
+  section_fault(state, " XXXX  ROWS card not found");
 }
 
 void report_illegal_row_type(ReadState& state) {
@@ -62,21 +62,21 @@ void report_objective_note(ReadState& state, const lp::Name8& name) {
 
 void report_columns_card_missing(ReadState& state) {
   ++state.result.errors;
-  section_message(state, " XXXX  COLUMNS card not found");
+  section_fault(state, " XXXX  COLUMNS card not found");
 }
 
 void report_no_rows(ReadState& state) {
   ++state.result.errors;
-  section_message(state, " XXXX  No rows specified");
+  section_fault(state, " XXXX  No rows specified");
 }
 
 void report_objective_out_of_place(ReadState& state) {
   ++state.result.errors;
   const lp::Name8 name = state.row_names[state.objective_row];
-  section_message(state, laid_out("(a, a)", {" XXXX  The linear objective card      N ",
-                                             lp::name_view(name)}));
-  section_message(state, " XXXX  is out of place.    Nonlinear constraints must come first,");
-  section_message(state, " XXXX  and the linear objective must follow them.");
+  section_fault(state, laid_out("(a, a)", {" XXXX  The linear objective card      N ",
+                                           lp::name_view(name)}));
+  section_fault(state, " XXXX  is out of place.    Nonlinear constraints must come first,");
+  section_fault(state, " XXXX  and the linear objective must follow them.");
 }
 
 void report_too_many_rows(ReadState& state) {

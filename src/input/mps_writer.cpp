@@ -1,5 +1,6 @@
 #include "input/mps_writer.h"
 
+#include <cstdio>
 #include <string>
 
 #include "input/messages.h"
@@ -24,12 +25,6 @@ lp::Name8 variable_name(const lp::ProblemSlot& slot, const WriteTarget& to, int 
 
 void put(const WriteTarget& to, std::string_view edit_list, std::initializer_list<RecordItem> items) {
   write_line(to.units, to.unit, laid_out(edit_list, items));
-}
-
-char row_letter(double lower, double upper) {
-  if (lower == upper) return 'E';
-  if (lower <= -kWriterInfinity) return upper >= kWriterInfinity ? 'N' : 'L';
-  return 'G';
 }
 
 void write_rows(const lp::ProblemSlot& slot, const WriteTarget& to) {
@@ -67,14 +62,7 @@ void write_set_entry(const WriteTarget& to, const lp::Name8& set, const lp::Name
 void write_rhs(const lp::ProblemSlot& slot, const MpsNames& names, const WriteTarget& to) {
   write_line(to.units, to.unit, "RHS");
   for (int i = 1; i <= slot.m; ++i) {
-    const double lower = lp::row_lower(slot, i);
-    const double upper = lp::row_upper(slot, i);
-    double rhs = 0.0;
-    if (lower > -kWriterInfinity) {
-      rhs = lower;
-    } else if (upper < kWriterInfinity) {
-      rhs = upper;
-    }
+    const double rhs = row_rhs(lp::row_lower(slot, i), lp::row_upper(slot, i));
     if (rhs != 0.0) write_set_entry(to, names.rhs, variable_name(slot, to, slot.n + i), rhs);
   }
 }
@@ -84,7 +72,7 @@ void write_ranges(const lp::ProblemSlot& slot, const MpsNames& names, const Writ
   for (int i = 1; i <= slot.m; ++i) {
     const double lower = lp::row_lower(slot, i);
     const double upper = lp::row_upper(slot, i);
-    if (lower > -kWriterInfinity && upper < kWriterInfinity && lower != upper) {
+    if (row_ranged(lower, upper)) {
       write_set_entry(to, names.ranges, variable_name(slot, to, slot.n + i), upper - lower);
     }
   }
@@ -105,20 +93,34 @@ void write_free_bound(const WriteTarget& to, std::string_view key, const lp::Nam
 
 void write_column_bounds(const lp::ProblemSlot& slot, const MpsNames& names, const WriteTarget& to,
                          int j) {
-  const double lower = slot.bl[j];
-  const double upper = slot.bu[j];
   const lp::Name8 column = variable_name(slot, to, j);
-  bool upper_open = true;  // FX and FR settle the upper bound themselves
-  if (lower == upper) {
-    write_bound(to, " FX ", names.bounds, column, lower);
-    upper_open = false;
-  } else if (lower <= -kWriterInfinity) {
-    upper_open = upper < kWriterInfinity;
-    write_free_bound(to, upper_open ? " MI " : " FR ", names.bounds, column);
-  } else if (lower != 0.0) {
-    write_bound(to, " LO ", names.bounds, column, lower);
+  std::array<BoundLine, 2> lines;
+  const int count = bound_lines(slot.bl[j], slot.bu[j], lines);
+  for (int k = 0; k < count; ++k) {
+    if (lines[k].has_value) {
+      write_bound(to, lines[k].key, names.bounds, column, lines[k].value);
+    } else {
+      write_free_bound(to, lines[k].key, names.bounds, column);
+    }
   }
-  if (upper_open && upper < kWriterInfinity) write_bound(to, " UP ", names.bounds, column, upper);
+}
+
+// Significant digits a double needs at most.
+constexpr int kMostDigits = 17;
+constexpr std::size_t kValueField = 12;
+
+// "1.5E-07" -> "1.5E-7", "1E+20" -> "1E20", "0.25" -> ".25".
+std::string compact_number(std::string text) {
+  const std::size_t e = text.find('E');
+  if (e != std::string::npos) {
+    std::size_t digits = e + 1;
+    if (text[digits] == '+') text.erase(digits, 1);
+    if (text[digits] == '-') ++digits;
+    while (digits + 1 < text.size() && text[digits] == '0') text.erase(digits, 1);
+  }
+  const std::size_t zero = text[0] == '-' ? 1 : 0;
+  if (text.size() > zero + 1 && text[zero] == '0' && text[zero + 1] == '.') text.erase(zero, 1);
+  return text;
 }
 
 void write_dump_header(const lp::ProblemSlot& slot, int slot_number, Units& units, int unit) {
@@ -132,6 +134,48 @@ void write_dump_header(const lp::ProblemSlot& slot, int slot_number, Units& unit
 }
 
 }  // namespace
+
+char row_letter(double lower, double upper) {
+  if (lower == upper) return 'E';
+  if (lower <= -kWriterInfinity) return upper >= kWriterInfinity ? 'N' : 'L';
+  return 'G';
+}
+
+double row_rhs(double lower, double upper) {
+  if (lower > -kWriterInfinity) return lower;
+  if (upper < kWriterInfinity) return upper;
+  return 0.0;
+}
+
+bool row_ranged(double lower, double upper) {
+  return lower > -kWriterInfinity && upper < kWriterInfinity && lower != upper;
+}
+
+int bound_lines(double lower, double upper, std::array<BoundLine, 2>& lines) {
+  int count = 0;
+  bool upper_open = true;  // FX and FR settle the upper bound themselves
+  if (lower == upper) {
+    lines[count++] = {" FX ", lower};
+    upper_open = false;
+  } else if (lower <= -kWriterInfinity) {
+    upper_open = upper < kWriterInfinity;
+    lines[count++] = {upper_open ? " MI " : " FR ", 0.0, false};
+  } else if (lower != 0.0) {
+    lines[count++] = {" LO ", lower};
+  }
+  if (upper_open && upper < kWriterInfinity) lines[count++] = {" UP ", upper};
+  return count;
+}
+
+std::string mps_value_field(double value) {
+  for (int digits = kMostDigits; digits >= 1; --digits) {
+    char text[40];
+    std::snprintf(text, sizeof text, "%.*G", digits, value);
+    std::string compact = compact_number(text);
+    if (compact.size() <= kValueField) return compact;
+  }
+  return "0";
+}
 
 void write_mps(const lp::ProblemSlot& slot, const MpsNames& names, Units& units, int unit) {
   const WriteTarget to{units, unit, slot_has_names(slot)};

@@ -4,7 +4,9 @@
 // classifies every entry against master, B and subproblem and fills the store.
 //
 // An INDEP section after a BLOCKS section is rejected ("error(s) in stoch file!"), by the prescan
-// and by the full read alike.
+// and by the full read alike. A SCENARIOS section (two-stage trees only) becomes one block whose
+// outcomes are the scenarios; it cannot be mixed with INDEP or BLOCKS.
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -30,6 +32,7 @@ struct StochContext {
   const lp::ProblemSlot& sub;
   const Decomposition& dec;
   lp::Name8 rhs_set;  // the RHS set name the core was read with
+  std::array<lp::Name8, 2> periods{};  // the time file's periods (blank: not named there)
 };
 
 inline constexpr int kEntryStored = 0;

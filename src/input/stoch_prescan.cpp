@@ -1,6 +1,8 @@
 // The prescan of the stochastic file: counts random parameters, outcomes and entries so that the
 // outcome store can be sized once.
 #include <algorithm>
+#include <set>
+#include <string>
 
 #include "common/free_format.h"
 #include "input/stoch_file.h"
@@ -16,6 +18,8 @@ struct Prescan {
   int debug_unit;
   StochSection section = StochSection::none;
   bool blocks_seen = false;
+  bool parameters_seen = false;  // INDEP or BLOCKS
+  bool scenarios_seen = false;
   // The parameter being counted.
   bool open = false;
   lp::Name8 name1{};
@@ -23,6 +27,7 @@ struct Prescan {
   char column2 = ' ';
   int outcomes = 0;  // INDEP lines or BL realizations
   int entries = 0;   // entries of the first realization (1 for INDEP)
+  std::set<std::string> scenario_entries{};  // every entry a scenario names, by bound type and names
 };
 
 void list_parameter(Prescan& scan) {
@@ -33,6 +38,7 @@ void list_parameter(Prescan& scan) {
 
 void close_parameter(Prescan& scan) {
   if (!scan.open) return;
+  if (scan.section == StochSection::scenarios) scan.entries = static_cast<int>(scan.scenario_entries.size());
   OutcomeStore& store = scan.store;
   ++store.jele;
   store.jsum += scan.outcomes;
@@ -75,11 +81,25 @@ bool count_blocks_line(Prescan& scan, const ModelRecord& record) {
   return true;
 }
 
-// False for a data line outside any section or an entry before the first BL line.
+// All scenarios form one block; its entries are those any scenario names. False for an entry
+// before the first SC line.
+bool count_scenarios_line(Prescan& scan, const ModelRecord& record) {
+  if (record.key() == kScenarioKey) {
+    scan.open = true;
+    ++scan.outcomes;
+    return true;
+  }
+  if (!scan.open) return false;
+  scan.scenario_entries.insert(record.text.substr(1, 2) + record.text.substr(4, 8) + record.text.substr(14, 8));
+  return true;
+}
+
+// False for a data line outside any section or an entry before the first BL or SC line.
 bool count_data_line(Prescan& scan, const ModelRecord& record) {
   switch (scan.section) {
     case StochSection::indep: count_indep_line(scan, record); return true;
     case StochSection::blocks: return count_blocks_line(scan, record);
+    case StochSection::scenarios: return count_scenarios_line(scan, record);
     case StochSection::none: return false;
   }
   return false;
@@ -88,6 +108,11 @@ bool count_data_line(Prescan& scan, const ModelRecord& record) {
 // Handles a section card; the result is ok to go on, or the failure (messages written).
 InputStatus open_section(Prescan& scan, const ModelRecord& record, const MessageUnits& to) {
   const StochCard card = stoch_card(record);
+  if (mixes_scenarios(card, scan.scenarios_seen, scan.parameters_seen)) {
+    report_mixed_sections(scan.units, to, record.line_number);
+    report_stoch_failure(scan.units, to);
+    return InputStatus::bad_file;
+  }
   if (card == StochCard::other || (card == StochCard::indep && scan.blocks_seen)) {
     report_stoch_failure(scan.units, to);
     return InputStatus::bad_file;
@@ -96,16 +121,20 @@ InputStatus open_section(Prescan& scan, const ModelRecord& record, const Message
     report_unsupported(scan.units, to, record);
     return InputStatus::unsupported;
   }
-  close_parameter(scan);
-  scan.section = card == StochCard::indep ? StochSection::indep : StochSection::blocks;
+  // A further SCENARIOS card continues the same scenarios.
+  if (card != StochCard::scenarios) close_parameter(scan);
+  scan.section = section_of(card);
   scan.blocks_seen = scan.blocks_seen || card == StochCard::blocks;
+  scan.parameters_seen = scan.parameters_seen || card != StochCard::scenarios;
+  scan.scenarios_seen = scan.scenarios_seen || card == StochCard::scenarios;
   return InputStatus::ok;
 }
 
-// At ENDATA: a last block without entries makes the file faulty.
+// At ENDATA: a last block (or scenarios) without entries makes the file faulty.
 InputStatus close_file(Prescan& scan, const MessageUnits& to) {
-  const bool empty_block = scan.open && scan.section == StochSection::blocks && scan.entries == 0;
+  const bool counting = scan.open;
   close_parameter(scan);
+  const bool empty_block = counting && scan.section != StochSection::indep && scan.entries == 0;
   if (!empty_block) return InputStatus::ok;
   report_stoch_failure(scan.units, to);
   return InputStatus::bad_file;

@@ -3,6 +3,7 @@
 
 #include "common/free_format.h"
 #include "input/stoch_file.h"
+#include "input/stoch_scenarios.h"
 #include "input/stoch_sections.h"
 
 namespace tarvo::input {
@@ -18,6 +19,9 @@ struct StochRead {
   bool overflow = false;  // the file holds more than the prescan counted
   StochSection section = StochSection::none;
   bool blocks_seen = false;
+  bool parameters_seen = false;  // INDEP or BLOCKS
+  bool scenarios_seen = false;
+  ScenarioTree tree{};
   // The parameter being read (k = store.count).
   bool open = false;
   lp::Name8 name1{};
@@ -156,7 +160,51 @@ void read_block_entry(StochRead& r, const ModelRecord& record) {
   s.values[s.value_start[k] + (s.nsoc[k] - 1) * s.nse[k] + e] = record.value1;
 }
 
-// False for a data line outside any section or an entry before the first BL line.
+void read_scenario_entry(StochRead& r, const ModelRecord& record) {
+  const Classification c = classify_entry(r.context, record.bound_type(), record.name1(),
+                                          record.name2(), record.value1, r.units, r.to);
+  if (c.result == kEntryError) ++r.errors;
+  if (c.result == kEntryStored) add_scenario_entry(r.tree, c, record.value1);
+}
+
+// False for an entry before the first SC line.
+bool read_scenarios_line(StochRead& r, const ModelRecord& record) {
+  if (record.key() == kScenarioKey) {
+    if (!add_scenario(r.tree, r.context, record, r.units, r.to)) ++r.errors;
+    return true;
+  }
+  if (r.tree.scenarios.empty()) return false;
+  read_scenario_entry(r, record);
+  return true;
+}
+
+// The scenarios as one block: outcome s starts from its parent's values (the core's for the
+// root) and takes its own changes.
+void store_scenarios(StochRead& r) {
+  const ScenarioTree& tree = r.tree;
+  if (tree.scenarios.empty()) return;
+  open_parameter(r);
+  for (const Classification& c : tree.entries) {
+    if (!push_entry(r, c)) return;
+  }
+  OutcomeStore& s = r.store;
+  const int k = s.count;
+  const int entries = static_cast<int>(tree.entries.size());
+  std::vector<double> values(entries);
+  for (const Scenario& scenario : tree.scenarios) {
+    for (int e = 0; e < entries; ++e) {
+      values[e] = scenario.parent == 0 ? core_value(r.context, tree.entries[e])
+                                       : s.values[s.value_start[k] + (scenario.parent - 1) * entries + e];
+    }
+    for (const auto& [e, value] : scenario.changes) values[e] = value;
+    if (!push_probability(r, scenario.probability)) return;
+    for (const double value : values) {
+      if (!push_value(r, value)) return;
+    }
+  }
+}
+
+// False for a data line outside any section or an entry before the first BL or SC line.
 bool read_data_line(StochRead& r, const ModelRecord& record) {
   const bool bl = record.key() == " BL ";
   const bool needs_value2 = r.section == StochSection::indep;
@@ -175,6 +223,7 @@ bool read_data_line(StochRead& r, const ModelRecord& record) {
       if (!r.open) return false;
       read_block_entry(r, record);
       return true;
+    case StochSection::scenarios: return read_scenarios_line(r, record);
     case StochSection::none: return false;
   }
   return false;
@@ -182,6 +231,11 @@ bool read_data_line(StochRead& r, const ModelRecord& record) {
 
 InputStatus open_section(StochRead& r, const ModelRecord& record) {
   const StochCard card = stoch_card(record);
+  if (mixes_scenarios(card, r.scenarios_seen, r.parameters_seen)) {
+    report_mixed_sections(r.units, r.to, record.line_number);
+    report_stoch_failure(r.units, r.to);
+    return InputStatus::bad_file;
+  }
   if (card == StochCard::other || (card == StochCard::indep && r.blocks_seen)) {
     report_stoch_failure(r.units, r.to);
     return InputStatus::bad_file;
@@ -191,8 +245,10 @@ InputStatus open_section(StochRead& r, const ModelRecord& record) {
     return InputStatus::unsupported;
   }
   close_parameter(r);
-  r.section = card == StochCard::indep ? StochSection::indep : StochSection::blocks;
+  r.section = section_of(card);
   r.blocks_seen = r.blocks_seen || card == StochCard::blocks;
+  r.parameters_seen = r.parameters_seen || card != StochCard::scenarios;
+  r.scenarios_seen = r.scenarios_seen || card == StochCard::scenarios;
   return InputStatus::ok;
 }
 
@@ -209,6 +265,7 @@ void set_totals(OutcomeStore& s, int values, int probs) {
 }
 
 InputStatus close_file(StochRead& r) {
+  store_scenarios(r);
   OutcomeStore& s = r.store;
   const bool empty_last = s.count > 0 && s.nse[s.count] == 0;
   close_parameter(r);

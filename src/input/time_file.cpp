@@ -40,9 +40,11 @@ InputStatus read_records(LineReader& reader, Units& units, int echo_unit, const 
     if (k == 3) {
       names.stage1_column = record.name1();
       names.stage1_row = record.name2();
+      names.stage1_period = record.name3();
     } else if (k == 4) {
       names.stage2_column = record.name1();
       names.stage2_row = record.name2();
+      names.stage2_period = record.name3();
     }
   }
   return InputStatus::ok;

@@ -23,8 +23,8 @@ void switch_print_files_off(Optimizer& opt, Units& units) {
   close_unit(units, kPrintUnit);
 }
 
-void write_sizes(const Options& options, Units& units, int out_unit) {
-  write_free(units, out_unit, "Simplex specs file:");
+void write_sizes(const Options& options, Units& units, int out_unit, std::string_view heading) {
+  write_free(units, out_unit, heading);
   write_free(units, out_unit, "rows:    ", options.ival[kRowLimit]);
   write_free(units, out_unit, "columss: ", options.ival[kColumnLimit]);
   write_free(units, out_unit, "elements:", options.ival[kElementsLimit]);
@@ -65,10 +65,11 @@ std::string_view start_word(int start) {
 
 }  // namespace
 
-int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug) {
+int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug,
+                   const std::string& specs_file) {
   if (opt.active == 0) opt.active = kMasterSlot;
-  if (!open_unit(units, kSpecsUnit, "SIMPLEX.SPC", OpenStatus::old_file)) {
-    write_free(units, err_unit, "ERROR: SPECS file SIMPLEX.SPC not found");
+  if (!open_unit(units, kSpecsUnit, specs_file, OpenStatus::old_file)) {
+    write_free(units, err_unit, "ERROR: SPECS file ", specs_file, " not found");
     return kInitFailed;
   }
   open_unit(units, kPrintUnit, "MODEL.MO", OpenStatus::unknown);
@@ -84,9 +85,24 @@ int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int
   }
   // A file without ROWS, COLUMNS or ELEMENTS still sizes the slots: by the defaults of a solve.
   complete_capacities(opt.options);
-  write_sizes(opt.options, units, out_unit);
+  write_sizes(opt.options, units, out_unit, "Simplex specs file:");
   allocate_slots(opt);
   return result;
+}
+
+void optimizer_init_sized(Optimizer& opt, Units& units, int out_unit, int debug,
+                          const SlotCapacity& capacity) {
+  if (opt.active == 0) opt.active = kMasterSlot;
+  const int print_unit = debug != 0 ? kPrintUnit : 0;
+  if (print_unit != 0) open_unit(units, print_unit, "MODEL.MO", OpenStatus::unknown);
+  read_specs(opt.options, units, 0, print_unit, 0, 0);  // every option unset
+  opt.options.ival[kRowLimit] = capacity.rows;
+  opt.options.ival[kColumnLimit] = capacity.columns;
+  opt.options.ival[kElementsLimit] = capacity.elements;
+  opt.options.ival[kIterationLimit] = capacity.iteration_limit;
+  complete_capacities(opt.options);
+  write_sizes(opt.options, units, out_unit, "Simplex slots sized from the model:");
+  allocate_slots(opt);
 }
 
 void select_problem(Optimizer& opt, int slot) {

@@ -2,6 +2,7 @@
 // The optimizer interface the rest of TARVO uses: initialization from SIMPLEX.SPC, the three
 // problem slots, the active slot, linear or quadratic objective, and solve requests.
 #include <array>
+#include <string>
 #include <vector>
 
 #include "common/units.h"
@@ -39,8 +40,23 @@ struct HeldProblem {
   Options options;
 };
 
-// Returns 0 on success, 13 on failure.
-int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug);
+// Reads the options file (SIMPLEX.SPC unless named) and sizes the slots from it. Returns 0 on
+// success, 13 on failure.
+int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug,
+                   const std::string& specs_file = "SIMPLEX.SPC");
+
+// What a run without an options file sizes every slot by.
+struct SlotCapacity {
+  int rows = 0;
+  int columns = 0;
+  int elements = 0;
+  int iteration_limit = 0;
+};
+
+// Initializes without an options file: every option at its default but the capacities and the
+// iteration limit. The print file MODEL.MO is opened only when `debug` is not 0.
+void optimizer_init_sized(Optimizer& opt, Units& units, int out_unit, int debug,
+                          const SlotCapacity& capacity);
 void select_problem(Optimizer& opt, int slot);
 ProblemSlot& active_slot(Optimizer& opt);
 void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_unit);

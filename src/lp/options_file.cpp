@@ -73,11 +73,12 @@ int find_begin(LineReader& reader, Units& units, const FileUnits& u, std::string
     if (words.empty()) continue;
     const std::string& first = words.front();
     if (first == "BEGIN") return kOptionsRead;
+    // Once skipping, only BEGIN counts: an ENDRUN among skipped records is skipped with them.
+    if (skipping) continue;
     if (first == "ENDRUN") {
       echo_both(units, u, record);
       return kOptionsEndRun;
     }
-    if (skipping) continue;
     if (first != "SKIP" && !complained) {
       write_no_begin_found(units, u, record);
       complained = true;

@@ -208,9 +208,16 @@ int report_error(Units& units, std::string_view record, const std::string& messa
   return 1;
 }
 
+// A number in the second word is the phrase's value, not a second keyword: SCALE 0.5 is SCALE
+// standing alone with a value.
+bool second_word_absent(const Phrase& phrase) {
+  double number = 0.0;
+  return phrase.words.size() <= kSecondWord || read_number(phrase.words[kSecondWord], number);
+}
+
 bool second_keyword_fits(std::string_view pattern, const Phrase& phrase) {
   if (pattern == kAnyWord) return true;
-  if (pattern == kNoWord) return phrase.words.size() <= kSecondWord;
+  if (pattern == kNoWord) return second_word_absent(phrase);
   return pattern == phrase.key2;
 }
 

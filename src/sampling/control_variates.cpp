@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "common/free_format.h"
 #include "common/record_format.h"
 #include "sampling/cut.h"
@@ -82,7 +84,9 @@ void estimate_control(const Context& ctx, Evaluation& ev) {
   const double reduced = alpha * alpha * m.sigg + m.sigzs - 2.0 * alpha * m.covzg;
   if (ctx.params.ibug >= 5) write_reduction_trace(ctx, m.sigzs, reduced);
   write_record(ctx.units, ctx.log_unit, "(a20, 1x, f12.2)", {"variance reduction:", m.sigzs / reduced});
-  ev.cut.variance = reduced / ev.nsamples;
+  // Costs that hardly vary can leave the formula a rounding error below zero; a variance is never
+  // negative, and a negative one would stall the statistical test on the root of it.
+  ev.cut.variance = std::max(reduced, 0.0) / ev.nsamples;
   if (ctx.params.ibug >= 5) write_cut_trace(ctx, ev);
 }
 

@@ -1,17 +1,8 @@
-#include <algorithm>
-#include <cmath>
-
 #include "common/free_format.h"
 #include "sampling/coupling.h"
 #include "sampling/cut.h"
 
 namespace tarvo::sampling {
-namespace {
-
-// Relative to the largest cut coefficient, above the optimizer's feasibility tolerance.
-constexpr double kFeasibilityCutMargin = 1.0e-5;
-
-}  // namespace
 
 void clear_cut(Evaluation& ev) {
   ev.cut.objs = 0.0;
@@ -26,16 +17,8 @@ void close_cut(const Context& ctx, Evaluation& ev) {
 }
 
 void feascut(const Context& ctx, Evaluation& ev, double z, const double* u) {
-  double largest = 1.0;
-  for (int j = 1; j <= ev.n1; ++j) {
-    ev.cut.gus[j] = -u[j];
-    largest = std::max(largest, std::fabs(u[j]));
-  }
-  // The master meets a cut only to within its feasibility tolerance; a proposal that sits on the
-  // cut may leave the subproblem infeasible by that hair, and the same cut would come back for
-  // ever. The margin keeps the next proposal clear of it.
-  ev.cut.gls = z + first_stage_dot(ev.cut.gus, ctx.master_primal, ev.n1) +
-               kFeasibilityCutMargin * largest;
+  for (int j = 1; j <= ev.n1; ++j) ev.cut.gus[j] = -u[j];
+  ev.cut.gls = z + first_stage_dot(ev.cut.gus, ctx.master_primal, ev.n1);
   ev.cut.gus[ev.n1 + 1] = 0.0;
   ev.cut.objs = kInfiniteCost;
   write_free(ctx.units, ctx.log_unit, "infez obj: ", z);

@@ -19,6 +19,13 @@ struct ChainLp {
 };
 ChainLp chain_lp(const Context& ctx, Evaluation& ev, int c);
 
+// Writes the outcome values work.current[1..entries] into the subproblem slot and into the
+// working coupling values and right-hand sides (work.b_work, work.rhs_work), each rebuilt from
+// its base copy: the outcome replaces the core's value, and parameters at one location add up.
+// False for an unknown parameter kind, which is returned in `bad_kind`.
+bool apply_outcome(lp::ProblemSlot& sub, const input::Decomposition& model,
+                   const input::OutcomeStore& store, int entries, SolveWork& work, int& bad_kind);
+
 // Writes the chain's current outcome values (work.current) and the proposal x-hat into the
 // subproblem: coupling values and right-hand sides from their base copies, every touched matrix
 // entry and bound rebuilt, and the row logicals' bounds set to -r, r = h(omega) + C x-hat. False

@@ -14,10 +14,9 @@ constexpr int kUpper = -11;
 constexpr int kLower = -12;
 constexpr int kFixed = -13;
 
-void copy_base_data(const Context& ctx, const Evaluation& ev, SolveWork& w) {
-  const input::Decomposition& d = ctx.model;
+void copy_base_data(const input::Decomposition& d, SolveWork& w) {
   for (int p = 1; p <= d.b_nonzeros; ++p) w.b_work[p] = d.b[p];
-  for (int i = 1; i <= ev.m2; ++i) w.rhs_work[i] = d.h[i];
+  for (int i = 1; i <= d.m2; ++i) w.rhs_work[i] = d.h[i];
 }
 
 // Zeroes the location that a parameter of this kind names; false for an unknown kind.
@@ -79,19 +78,24 @@ void set_row_limits(lp::ProblemSlot& sub, const Evaluation& ev, const SolveWork&
 
 }  // namespace
 
-bool subsetup(const Context& ctx, const Evaluation& ev, SolveWork& work, lp::ProblemSlot& sub,
-              int& bad_kind) {
-  const input::OutcomeStore& store = ctx.store;
-  copy_base_data(ctx, ev, work);
-  for (int e = 1; e <= ev.nentries; ++e) {
+bool apply_outcome(lp::ProblemSlot& sub, const input::Decomposition& model,
+                   const input::OutcomeStore& store, int entries, SolveWork& work, int& bad_kind) {
+  copy_base_data(model, work);
+  for (int e = 1; e <= entries; ++e) {
     if (!reset_location(sub, work, store.kind[e], store.location[e])) {
       bad_kind = store.kind[e];
       return false;
     }
   }
-  for (int e = 1; e <= ev.nentries; ++e) {
+  for (int e = 1; e <= entries; ++e) {
     apply_value(sub, work, store.kind[e], store.location[e], work.current[e]);
   }
+  return true;
+}
+
+bool subsetup(const Context& ctx, const Evaluation& ev, SolveWork& work, lp::ProblemSlot& sub,
+              int& bad_kind) {
+  if (!apply_outcome(sub, ctx.model, ctx.store, ev.nentries, work, bad_kind)) return false;
   couple_proposal(ctx, ev, work, ctx.master_primal);
   if (ctx.params.ibug >= 7) write_rhs_trace(ctx, ev, work);
   for (int i = 1; i <= ev.m2; ++i) work.coupled[i] += work.rhs_work[i];

@@ -22,8 +22,8 @@ class UnitsTest : public ::testing::Test {  // each test in a fresh working dire
 };
 using LineReaderTest = UnitsTest;
 
-// Records and free lines reach an opened unit, an unopened one writes to fort.<unit>, and writes
-// to no file or to standard input leave no file behind.
+// Records and free lines reach an opened unit, whatever its number; an unopened one writes to
+// fort.<unit>, and writes to no file or to standard input leave no file behind.
 TEST_F(UnitsTest, WritesReachTheirFiles) {
   Units units;
   ASSERT_TRUE(open_unit(units, 16, "MODEL.SOL", OpenStatus::unknown));
@@ -33,6 +33,14 @@ TEST_F(UnitsTest, WritesReachTheirFiles) {
   write_line(units, 15, "   12  1.50000E+00");
   write_line(units, 15, "second");
   for (int unit : {0, -1, -48, kStdinUnit}) write_line(units, unit, "dropped");
+  for (int unit : {0, -3, kStdinUnit}) {
+    const std::string name = "on-" + std::to_string(unit);
+    ASSERT_TRUE(open_unit(units, unit, name, OpenStatus::unknown));
+    write_line(units, unit, "kept");
+    close_unit(units, unit);
+    EXPECT_EQ(read_file(name), "kept\n") << unit;
+    fs::remove(name);
+  }
   close_all_units(units);
   EXPECT_EQ(read_file("MODEL.SOL"), " 1\n two\n objval  =  -2.5\n \n");
   EXPECT_EQ(read_file("fort.15"), "   12  1.50000E+00\nsecond\n");

@@ -74,6 +74,7 @@ TEST(FreeInput, SplitsItems) {
     const char* line;
     const char* items;
     bool ended;
+    std::size_t wanted = static_cast<std::size_t>(-1);  // a read of a short list stops early
   } cases[] = {
       {"3 istrat", "3|istrat", false}, {"  4,'maxit'  ", "4|'maxit'", false},
       {"6, \"NZROWS\"", "6|'NZROWS'", false}, {"\t7\tx", "7|x", false}, {"a,b , c", "a|b|c", false},
@@ -83,12 +84,14 @@ TEST(FreeInput, SplitsItems) {
       {"1 2/3", "1|2", true}, {"/", "", true}, {"'a/b' c", "'a/b'|c", false}, {"'it''s'", "'it's'", false},
       {"\"say \"\"hi\"\"\"", "'say \"hi\"'", false}, {"'mixed \" quote'", "'mixed \" quote'", false},
       {"'' x", "''|x", false}, {"", "", false}, {"   ", "", false},
+      {"3 istrat 'unterminated", "3|istrat", false, 2}, {"100000*7 x", "7|7", false, 2},
+      {"2*,5", "~", false, 1}, {"1,,2", "1|~", false, 2}, {"'a' 0*1 /", "'a'", false, 1},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.line);
     std::vector<FreeItem> items{FreeItem{"stale", false, false}};
     bool ended = !c.ended;
-    ASSERT_TRUE(split_free_items(c.line, items, ended));
+    ASSERT_TRUE(split_free_items(c.line, items, ended, c.wanted));
     EXPECT_EQ(rendered(items), c.items);
     EXPECT_EQ(ended, c.ended);
   }

@@ -83,6 +83,22 @@ struct BareRun {
   bool has(const std::string& name) const { return fs::exists(dir.path / name); }
 };
 
+// The last master objective of a run's screen log (9 significant digits).
+inline double final_objective(const fs::path& dir) {
+  const std::string log = read_file(dir / "MODEL.SCR");
+  const auto at = log.rfind(" obj : ");
+  return at == std::string::npos ? -1.0e300 : std::stod(log.substr(at + 7));
+}
+
+// tarvo-lp's optimum of the deterministic equivalent tarvo-dep writes with `arguments` (the model
+// files) into `dir`.
+inline double equivalent_optimum(const fs::path& dir, const std::string& arguments) {
+  const ProgramRun dep = run_program(TARVO_DEP_BINARY, dir, "", arguments + " dep.mps");
+  if (dep.status != 0) return -1.0e300;
+  const ProgramRun lp = run_program(TARVO_LP_BINARY, dir, "", "dep.mps");
+  return number_after(lp.console, "status 0 (optimal)  objective ");
+}
+
 inline double relative_error(double value, double reference) {
   return std::abs(value - reference) / std::max(1.0, std::abs(reference));
 }

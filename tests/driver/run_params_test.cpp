@@ -84,6 +84,32 @@ TEST(RunParams, FaultyRecordsEndTheRunBeforeTheEcho) {
   }
 }
 
+// Values taken as they stand but leaving the run nothing to work with end it through the error
+// exit, after the echo, with every report in place; a sample size the strategy does not use
+// stands.
+TEST(RunParams, ValuesTheRunCannotUseEndItWithTheirMessage) {
+  const struct {
+    const char* inp;
+    const char* message;  // "": the run ends normally
+  } cases[] = {
+      {"-5 nsamples\n6 istrat\n", " error: nsamples must be at least 1 for a sampled strategy\n"},
+      {"0 nsamples\n10 istrat\n", " error: nsamples must be at least 1 for a sampled strategy\n"},
+      {"-1 nzrows\n4 istrat\n", " error: nzrows must be at least 1\n"},
+      {"-5 nzrows\n4 istrat\n", " error: nzrows must be at least 1\n"},
+      {"-5 nsamples\n5 istrat\n", ""},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.inp);
+    const ExampleRun run("lands3", c.inp);
+    const std::string log = run.file("MODEL.SCR");
+    EXPECT_TRUE(contains(log, " parameters: ") && contains(log, c.message)) << log;
+    EXPECT_EQ(run.file("MODEL.SOL").rfind("  T  A  R  V  O ", 0), 0u);
+    EXPECT_EQ(run.file("MODEL.ERR"), c.message);
+    EXPECT_TRUE(contains(run.program.console, *c.message ? " ERROR Exit\n" : " Normal Exit\n"));
+    EXPECT_EQ(run.sog.status, *c.message ? 12 : 1);
+  }
+}
+
 TEST(RunParams, ModeLineSelectsEvaluationOnlyWhenSpelledExactly) {
   const struct {
     const char* input;

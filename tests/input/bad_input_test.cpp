@@ -31,6 +31,12 @@ std::string blocks(const std::string& lines) {
   return "STOCH         LandS\nBLOCKS        DISCRETE\n" + lines + "ENDATA\n";
 }
 std::string bl(const char* p) { return rec(" BL", "BLOCK1", "PERIOD2", p); }
+std::string scenarios(const std::string& lines) {
+  return "STOCH         LandS\nSCENARIOS     DISCRETE\n" + lines + "ENDATA\n";
+}
+std::string sc(const char* name, const char* parent, const char* p, const char* period = "PERIOD2") {
+  return rec(" SC", name, parent, p, period);
+}
 std::string add_bounds(const std::string& core, const std::string& lines) {
   return replaced(core, "ENDATA", "BOUNDS\n" + lines + "ENDATA");
 }
@@ -133,7 +139,7 @@ const Case kCases[] = {
     {"no ENDATA", 'S', rep("ENDATA", "*"), bad, "prescan", "no endata found!"},
     {"not DISCRETE", 'S', rep("DISCRETE", "NORMAL"), InputStatus::unsupported,
      "prescan", "Option P        NORMAL   not supported!\n program terminated."},
-    {"unknown section", 'S', rep("INDEP ", "SCENS "), bad, "prescan", "error(s) in stoch file!"},
+    {"unknown section", 'S', rep("INDEP ", "OTHER "), bad, "prescan", "error(s) in stoch file!"},
     {"BLOCKS then INDEP", 'S', [](auto&) { return replaced(blocks(bl("1.0") + rec("", "RIGHT", "DEMAND1", "3")), "ENDATA",
                                                             "INDEP         DISCRETE\nENDATA"); },
      bad, "prescan", "error(s) in stoch file!"},
@@ -180,6 +186,26 @@ const Case kCases[] = {
        EXPECT_EQ(std::vector<double>(m.store.values.begin() + 1, m.store.values.begin() + 5),
                  (std::vector<double>{3, 4, 3, 6}));
      }},
+    {"scenarios take their parent's values or the core's", 'S',
+     whole(scenarios(sc("S1", "'ROOT'", ".3", "PERIOD1") + rec("", "RIGHT", "DEMAND1", "3") +
+                     sc("S2", "S1", ".4") + rec("", "RIGHT", "DEMAND2", "4") + sc("S3", "'ROOT'", ".3"))),
+     ok, "", "", [](const Model& m) {
+       EXPECT_EQ(m.store.count, 1);
+       EXPECT_EQ(m.store.nse[1], 2);
+       EXPECT_EQ(std::vector<double>(m.store.values.begin() + 1, m.store.values.begin() + 7),
+                 (std::vector<double>{3, 3, 3, 4, 1, 3}));
+       EXPECT_EQ(std::vector<double>(m.store.probs.begin() + 1, m.store.probs.begin() + 4),
+                 (std::vector<double>{.3, .4, .3}));
+     }},
+    {"scenario parent not above it", 'S', whole(scenarios(sc("S1", "S9", "1") + rec("", "RIGHT", "DEMAND1", "3"))),
+     bad, "stoch", "ERROR in .sto: line 3: parent S9 of scenario S1 is no scenario above it"},
+    {"multistage scenarios", 'S',
+     whole(scenarios(sc("S1", "'ROOT'", ".5", "PERIOD1") + rec("", "RIGHT", "DEMAND1", "3") + sc("S2", "S1", ".5", "PERIOD3"))),
+     bad, "stoch", "ERROR in .sto: line 5: scenario S2 in period PERIOD3 makes a multistage tree"},
+    {"scenarios after INDEP", 'S', rep("ENDATA", "SCENARIOS     DISCRETE\nENDATA"), bad, "prescan",
+     "ERROR in .sto: line 6: SCENARIOS cannot be mixed with INDEP or BLOCKS sections"},
+    {"first stage without rows", 'T', rep("OPLIM1", "MINCAP"), ok, "", "",
+     [](const Model& m) { EXPECT_EQ(m.dec.m1, 1); EXPECT_EQ(m.dec.m2, m.core.m); EXPECT_EQ(m.master.ne, 4 + 4 * 100 + 101); }},
     {"bad number in the stochastic file", 'S', rep("3.0 ", "3.x "), bad, "stoch",
      "ERROR in .sto: bad number in line  3"},
 };

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 
+#include "input/mps_sizes.h"
 #include "input_test_support.h"
 
 namespace tarvo::input::testing {
@@ -125,6 +126,10 @@ TEST_P(Example, SizesAgreeWithTheFiles) {
   EXPECT_EQ(model.core.m, static_cast<int>(core.rows.size()));
   EXPECT_EQ(model.core.n, static_cast<int>(core.columns.size()));
   EXPECT_EQ(model.core.ne, elements);
+  const MpsSizes counted = count_mps_sizes(dir + "/MODEL.COR");
+  EXPECT_EQ(counted.rows, model.core.m);
+  EXPECT_EQ(counted.columns, model.core.n);
+  EXPECT_EQ(counted.entries, model.core.ne);
 
   std::vector<std::string> sections;
   const auto tim = data_lines(dir + "/MODEL.TIM", sections);

@@ -103,7 +103,8 @@ inline void load_model(Model& model, const std::string& dir, const MessageUnits&
             "decompose")) {
     return;
   }
-  const StochContext context{model.master, model.sub, model.dec, model.read.names.rhs};
+  const StochContext context{model.master, model.sub, model.dec, model.read.names.rhs,
+                             {model.stages.stage1_period, model.stages.stage2_period}};
   step(read_stoch_file(model.units, dir + "/MODEL.STO", kStoUnit, 0, to, context, model.store), "stoch");
 }
 

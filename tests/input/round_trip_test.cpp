@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 
+#include "common/record_format.h"
 #include "input/mps_writer.h"
 #include "input_test_support.h"
 
@@ -94,6 +96,53 @@ TEST(RoundTrip, RangesBoundsAndDefaultNames) {
   const std::string text = read_file(dir.file("noname"));
   EXPECT_NE(text.find("x......1  r......1"), std::string::npos) << text;
   EXPECT_NE(text.find(" MI           x......2"), std::string::npos) << text;
+}
+
+// Values for the 12-column fields of a written file read back with as many digits as fit: at
+// least 9 significant digits for magnitudes from 1e-2 to 1e9, at least 5 for any other.
+TEST(RoundTrip, ValueFieldsKeepTheDigitsThatFit) {
+  std::mt19937_64 rng(11);
+  std::uniform_real_distribution<double> mantissa(1.0, 10.0), exponent(-40.0, 40.0);
+  for (int k = 0; k < 20000; ++k) {
+    const double v = (k % 2 ? -1 : 1) * mantissa(rng) * std::pow(10.0, std::floor(exponent(rng)));
+    const std::string text = mps_value_field(v);
+    double back = 0.0;
+    ASSERT_LE(text.size(), 12u) << text;
+    ASSERT_TRUE(read_real_field(text, back)) << text;
+    const bool plain = std::fabs(v) >= 1e-2 && std::fabs(v) < 1e9;
+    EXPECT_LE(std::fabs(back - v), (plain ? 5e-9 : 5e-5) * std::fabs(v)) << v << " " << text;
+  }
+  for (const auto& [v, text] : {std::pair{0.0, "0"}, {-0.25, "-.25"}, {1e20, "1E20"}, {-1.5e-7, "-1.5E-7"},
+                                {123456789012.0, "123456789012"}, {1.0 / 3, ".33333333333"}}) {
+    EXPECT_EQ(mps_value_field(v), text);
+  }
+}
+
+// Each RANGES entry counts from the limits the RHS section (1.0) left, however many came before.
+TEST(RoundTrip, RangesCountFromTheRightHandSide) {
+  const struct {
+    char type;
+    std::vector<const char*> ranges;
+    double lower, upper;
+  } cases[] = {
+      {'G', {"-2.0"}, 1, 3},        {'L', {"2.0"}, -1, 1},        {'E', {"2.0"}, 1, 3},
+      {'E', {"-1.0"}, 0, 1},        {'E', {"0.0"}, 1, 1},         {'E', {"2.0", "-1.0"}, 0, 1},
+      {'E', {"-1.0", "2.0"}, 1, 3}, {'E', {"2.0", "0.0"}, 1, 1},  {'G', {"5.0", "2.0"}, 1, 3},
+  };
+  TempDir dir("ranges");
+  for (const auto& c : cases) {
+    std::string text = std::string("NAME\nROWS\n N  COST\n ") + c.type + "  DEMAND1\nCOLUMNS\n"
+                       "    X         DEMAND1   1.0\nRHS\n    RHS       DEMAND1   1.0\nRANGES\n";
+    for (const char* r : c.ranges) text += "    RNG       DEMAND1   " + std::string(r) + "\n";
+    dir.write("r.mps", text + "ENDATA\n");
+    SCOPED_TRACE(text);
+    lp::ProblemSlot slot = make_slot(10, 10, 10);
+    Units units;
+    ASSERT_EQ(read_mps_file(slot, default_options(), units, dir.file("r.mps"), kCorUnit, 0, 0).status,
+              InputStatus::ok);
+    EXPECT_EQ(lp::row_lower(slot, 2), c.lower);
+    EXPECT_EQ(lp::row_upper(slot, 2), c.upper);
+  }
 }
 
 }  // namespace

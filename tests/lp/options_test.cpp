@@ -207,15 +207,26 @@ TEST(OptionPhrases, SetNamesComeFromTheSecondWord) {
   EXPECT_EQ(o.rhs_name, Name8{});
 }
 
+// A positive number on a SCALE phrase other than SCALE OPTION is the scale tolerance; a number
+// where a second keyword may stand is the phrase's value (SCALE 0.5 is SCALE alone).
 TEST(OptionPhrases, ScaleTakesAPositiveNumberAsItsTolerance) {
   Units units;
   Options o;
   apply_defaults(o, units, 1);
-  set_option(o, units, "SCALE YES 0.7", 0, 0);
+  ASSERT_EQ(set_option(o, units, "SCALE YES 0.7", 0, 0), 0);
   EXPECT_EQ(o.ival[kScaleOption], -1);
   EXPECT_EQ(o.rval[kScaleTolerance], 0.7);
-  set_option(o, units, "SCALE OPTION 2", 0, 0);
+  ASSERT_EQ(set_option(o, units, "SCALE OPTION 2", 0, 0), 0);
   EXPECT_EQ(o.rval[kScaleTolerance], 0.7);
+  ASSERT_EQ(set_option(o, units, "SCALE 0.5", 0, 0), 0);
+  EXPECT_EQ(o.ival[kScaleOption], -1);
+  EXPECT_EQ(o.rval[kScaleTolerance], 0.5);
+  ASSERT_EQ(set_option(o, units, "SCALE -3", 0, 0), 0);
+  EXPECT_EQ(o.rval[kScaleTolerance], 0.5);
+  ASSERT_EQ(set_option(o, units, "VERIFY NO", 0, 0), 0);
+  ASSERT_EQ(set_option(o, units, "VERIFY 2", 0, 0), 0);
+  EXPECT_EQ(o.ival[kVerifyLevel], 3);
+  EXPECT_EQ(set_option(o, units, "SCALE BOGUS 0.5", 0, 0), 1);
 }
 
 // What apply_defaults(2) gives options that are unset or out of range, for linear and nonlinear
@@ -335,6 +346,11 @@ const FileCase kFileCases[] = {
     {"stray records before BEGIN", "ROWS 1\nROWS 2\nBEGIN\nEND\n", 0, {" ---->ROWS 1"}, {}, {}, {" ---->ROWS 2"}},
     {"ENDRUN first", "*\nENDRUN now  \nBEGIN\nEND\n", 4, {"      ENDRUN now"}, {" ENDRUN now"}, {}},
     {"skipped set", "SKIP\nROWS 1\nEND\nBegin\nROWS 2\nEND\n", 0, {}, {}, {{kRowLimit, 2}}},
+    // Skipping ends at BEGIN only, after SKIP and after stray records alike.
+    {"ENDRUN while skipping", "SKIP\nROWS 5\nENDRUN\nBEGIN\nROWS 3000\nEND\n", 0, {}, {},
+     {{kRowLimit, 3000}}, {"      ENDRUN"}},
+    {"ENDRUN after stray records", "ROWS 5\nENDRUN\nBEGIN\nROWS 3000\nEND\n", 0, {}, {},
+     {{kRowLimit, 3000}}, {"      ENDRUN"}},
     {"end of file inside the set", "BEGIN\nROWS 5\n", 2,
      {" XXX  End-of-file encountered while processing a SPECS file on unit     4"}, {},
      {{kRowLimit, 5}}},
