@@ -129,8 +129,8 @@ void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_uni
 int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int start,
                   double& objective, double& /*spare1*/, std::vector<double>& duals,
                   double& /*spare2*/, std::vector<double>& primal) {
-  inform = solve_held(active_slot(opt), opt.solver[opt.active], opt.options, opt, units, start,
-                      objective, duals, primal);
+  inform = solve_quietly(active_slot(opt), opt.solver[opt.active], opt.options, opt, units,
+                         start, objective, duals, primal);
   report_solve_status(units, out_unit, inform);
   return 0;
 }
@@ -164,9 +164,9 @@ void hold_problem(HeldProblem& held, const ProblemSlot& from) {
   allocate_simplex_state(held.solver, from.m, from.n, from.ne);
 }
 
-int solve_held(ProblemSlot& slot, SimplexState& solver, Options& options, const Optimizer& opt,
-               Units& units, int start, double& objective, std::vector<double>& duals,
-               std::vector<double>& primal) {
+int solve_quietly(ProblemSlot& slot, SimplexState& solver, Options& options, const Optimizer& opt,
+                  Units& units, int start, double& objective, std::vector<double>& duals,
+                  std::vector<double>& primal) {
   // "MPS file 0" for every solve, set directly: parsing the phrase would cost more than the
   // re-solve of a subproblem and writes nothing anyway.
   options.ival[kMpsFile] = 0;

@@ -68,13 +68,14 @@ int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int s
 // Sizes `held` for exactly the problem in `from` and copies that problem (matrix, bounds, basis,
 // values, names) into it.
 void hold_problem(HeldProblem& held, const ProblemSlot& from);
-// solve_problem for a problem held apart: writes no message (report_solve_status writes the one
-// solve_problem writes) and reads of the optimizer only the names, the workspace size and the
-// regularization. Problems with distinct slots, states and options may be solved at the same time
+// solve_problem for a given slot, simplex state and options (one of the optimizer's slots or a
+// held problem), writing no message: report_solve_status writes the one solve_problem writes. Of
+// the optimizer it reads only the names, the workspace size and the regularization, so distinct
+// slots with their own states and options may be solved at the same time from different threads
 // while the print and summary files are closed.
-int solve_held(ProblemSlot& slot, SimplexState& solver, Options& options, const Optimizer& opt,
-               Units& units, int start, double& objective, std::vector<double>& duals,
-               std::vector<double>& primal);
+int solve_quietly(ProblemSlot& slot, SimplexState& solver, Options& options, const Optimizer& opt,
+                  Units& units, int start, double& objective, std::vector<double>& duals,
+                  std::vector<double>& primal);
 // The line solve_problem writes to out_unit for a status other than 0.
 void report_solve_status(Units& units, int out_unit, int inform);
 // The quadratic regularization term and its gradient; x and g are 1-based (x[1..n]); column n,

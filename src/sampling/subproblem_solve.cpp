@@ -50,8 +50,8 @@ int solve_outcome(const Context& ctx, const Evaluation& ev, Chain& chain, const 
     start = kColdStart;
     chain.startflag = 1;
   }
-  const int inform = lp::solve_held(lp.slot, lp.solver, lp.options, ctx.optimizer, ctx.units,
-                                    start, work.z, work.duals, work.primal);
+  const int inform = lp::solve_quietly(lp.slot, lp.solver, lp.options, ctx.optimizer,
+                                       ctx.units, start, work.z, work.duals, work.primal);
   ++chain.solves;
   chain.pivots += lp.solver.counters.iterations;
   return inform;

@@ -104,7 +104,7 @@ TEST(Threads, OneThreadAndTwoGiveTheSameOutput) {
   const struct { const char* example; const char* inp; } cases[] = {
       {"stormg2-1000", "4 istrat\n20 ncuts\n400 nzrows\n2 maxit\n"},
       {"lands-1e6", "6 istrat\n300 nsamples\n4 maxit\n"},
-      {"fxm2-6", "6 istrat\n300 nsamples\n30 maxit\n"},  // chains that stop on infeasible points
+      {"fxm2-6", "6 istrat\n300 nsamples\n10 maxit\n"},  // chains that stop on infeasible points
       {"lands-1e6", "9 istrat\n300 nsamples\n10 ncuts\n3 maxit\n"},
   };
   for (const auto& c : cases) {
@@ -124,7 +124,7 @@ TEST(Threads, OneThreadAndTwoGiveTheSameOutput) {
 TEST(SolveOrder, TracesDoNotChangeTheResults) {
   const struct { const char* example; const char* inp; } cases[] = {
       {"lands3", "6 istrat\n100 nsamples\n"},
-      {"stormg2-8", "8 istrat\n100 nsamples\n"},
+      {"stormg2-8", "8 istrat\n100 nsamples\n10 maxit\n"},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.example);
