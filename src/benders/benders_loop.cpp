@@ -225,7 +225,6 @@ int iterate(const sampling::Context& ctx, sampling::Evaluation& ev, SolveState& 
   }
 }
 
-// The lower end of the confidence interval once the loop has ended.
 // The cut rows of a multi-cut master as the lower-bound statistic counts cuts: one entry per
 // iteration whose cuts are in the master, with the largest dual of its rows and their summed
 // variance, so that a binding cut still stands for one evaluation.
@@ -235,8 +234,10 @@ sampling::CutRows cuts_by_iteration(SolveState& st) {
   for (int r = 1; r <= st.rows.nzrows; ++r) {
     if (pool.holder[r] >= 0) pool.taken[++used] = r;
   }
-  std::sort(pool.taken.begin() + 1, pool.taken.begin() + used + 1,
-            [&pool](int a, int b) { return pool.source[a] != pool.source[b] ? pool.source[a] < pool.source[b] : a < b; });
+  const auto older = [&pool](int a, int b) {
+    return pool.source[a] != pool.source[b] ? pool.source[a] < pool.source[b] : a < b;
+  };
+  std::sort(pool.taken.begin() + 1, pool.taken.begin() + used + 1, older);
   int count = 0;
   for (int i = 1; i <= used; ++i) {
     const int r = pool.taken[i];
@@ -252,6 +253,7 @@ sampling::CutRows cuts_by_iteration(SolveState& st) {
                            count};
 }
 
+// The lower end of the confidence interval once the loop has ended.
 void settle_lower_end(const sampling::Context& ctx, const sampling::Evaluation& ev, SolveState& st,
                       int s) {
   st.lower_end = st.master_objective;

@@ -109,7 +109,8 @@ bool prepare_solve(RunState& run) {
   lp::ProblemSlot& master = run.optimizer.slot[lp::kMasterSlot];
   const int groups = cut_groups(run);
   const input::MessageUnits to{run.log_unit, run.message_unit};
-  if (groups > 1 && input::failed(input::add_cut_groups(master, run.model, groups, run.units, to))) {
+  if (groups > 1 &&
+      input::failed(input::add_cut_groups(master, run.model, groups, run.units, to))) {
     return false;
   }
   benders::allocate_solve_state(run.solve, master.m, master.n, run.model.m1, run.params.nzrows);

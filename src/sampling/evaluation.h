@@ -65,14 +65,14 @@ struct SolveWork {
   std::vector<int> index;          // [1..nblocks] current outcome of every block
   std::vector<double> block_prob;  // [1..nblocks] probability of the current outcome per block
   std::vector<double> current;     // [1..nentries] current value of every random parameter
-  double scenario_prob = 0.0;      // product of block_prob (subeval with mode 3)
+  double scenario_prob = 0.0;      // product of block_prob (solve_row with mode 3)
   std::vector<double> b_work;      // [1..B nonzeros] coupling values of the outcome
   std::vector<double> rhs_work;    // [1..m2] right-hand sides of the outcome
   std::vector<double> coupled;     // [1..m2] C x-hat, then the full right-hand side r
   std::vector<double> primal;      // [1..n2+m2] last solve: columns, then row activities
   std::vector<double> duals;       // [1..m2+n2] last solve: row duals, then reduced costs
   std::vector<double> u;           // [1..n1] C' pi of the last solve
-  double z = 0.0;                  // objective of the last solve (sum of infeasibilities if infeasible)
+  double z = 0.0;  // objective of the last solve (sum of infeasibilities if infeasible)
 };
 
 // A warm-start chain: a fixed stretch of a pass's solve order, solved point after point on the
@@ -84,7 +84,7 @@ struct Chain {
   SolveWork work;
   std::vector<double> acc_primal;  // [1..n2+m2] the chain's share of the report accumulators
   std::vector<double> acc_duals;   // [1..m2+n2]
-  int startflag = 1;     // 0 until the chain's first solve, which then starts cold
+  int startflag = 0;     // 0 until the chain's first solve, which then starts cold
   int first = 0;         // positions first..last of ev.order in this pass
   int last = 0;
   // How the chain's part of the pass ended: at point stop_point with optimizer status
@@ -136,7 +136,7 @@ struct Evaluation {
   bool visit_backwards = false;
   std::vector<int> visit_step;     // [1..nblocks] scratch of the serpentine order
   std::vector<char> solved;        // [1..capacity] point already solved in this pass
-  std::vector<signed char> point_status;  // [1..capacity] optimizer status of the point's solve
+  std::vector<signed char> point_status;  // [1..capacity] 0 optimal, 1 infeasible (solved points)
   // Universe passes: the optimal basis (slot states, n2 + m2 per point) each point last had, and
   // whether a pass restarts each point from its own basis. Outcomes far apart cost many pivots
   // from one another's bases, while a point's own basis stays near optimal as the proposals

@@ -99,8 +99,8 @@ void collect_solution(const Context& ctx, const Evaluation& ev, const PassPlan& 
   const int size = ev.n2 + ev.m2;
   if (plan.collect == CollectRule::base_copy) {
     if (k != 1) return;
-    std::copy(work.primal.begin() + 1, work.primal.begin() + 1 + size, chain.acc_primal.begin() + 1);
-    std::copy(work.duals.begin() + 1, work.duals.begin() + 1 + size, chain.acc_duals.begin() + 1);
+    std::copy_n(work.primal.begin() + 1, size, chain.acc_primal.begin() + 1);
+    std::copy_n(work.duals.begin() + 1, size, chain.acc_duals.begin() + 1);
     return;
   }
   const double w = collect_weight(ctx, ev, plan, k, work);
@@ -309,11 +309,13 @@ void write_point_lines(const Context& ctx, const Evaluation& ev, const PassPlan&
   const bool trace = ctx.params.ibug >= kPointTraceLevel;
   for (int k = 1; k <= plan.rows; ++k) {
     if (!ev.solved[k]) continue;
-    if (ev.point_status[k] != 0) lp::report_solve_status(ctx.units, ctx.log_unit, ev.point_status[k]);
+    const int status = ev.point_status[k];
+    if (status != 0) lp::report_solve_status(ctx.units, ctx.log_unit, status);
     if (!trace) continue;
     const double z = ev.costs[k + plan.cost_offset];
     if (plan.mode == kWithProbability) {
-      write_free(ctx.units, ctx.log_unit, "   sub ", k, " : obj ", z, "  prob ", row_probability(ctx, ev, k));
+      const double p = row_probability(ctx, ev, k);
+      write_free(ctx.units, ctx.log_unit, "   sub ", k, " : obj ", z, "  prob ", p);
     } else {
       write_free(ctx.units, ctx.log_unit, "   sub ", k, " : obj ", z);
     }

@@ -34,7 +34,7 @@ enum class Visit {
 struct PassPlan {
   int rows = 0;         // points 1..rows of the sample table
   int cost_offset = 0;  // the cost of point k goes to ev.costs[k + cost_offset]
-  int mode = 1;         // subeval mode (3: with the scenario probability)
+  int mode = 1;         // solve_row mode (3: with the scenario probability)
   Visit visit = Visit::table;
   CollectRule collect = CollectRule::none;
   bool point_bases = false;  // keep each point's optimal basis (ev.point_basis) and restart from it
