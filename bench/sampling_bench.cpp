@@ -100,15 +100,18 @@ struct Pivots {
   long long solves = 0, pivots = 0, factorizations = 0;
 };
 
-// The points of the plan solved one subeval at a time in the pass's visiting order (a point equal
-// to the one before it is not solved), counting the simplex work of every warm solve.
+// The points of the plan solved one at a time on chain 0 in the pass's visiting order (a point
+// equal to the one before it is not solved), counting the simplex work of every warm solve.
 Pivots count_pivots(Model& m, const sampling::PassPlan& plan) {
   const sampling::Context ctx = m.context();
   lp::select_problem(*m.opt, lp::kSubproblemSlot);
   for (int k = 1; k <= plan.rows; ++k) m.ev.order[k] = k;
   if (plan.visit != sampling::Visit::table) sampling::order_points(ctx, m.ev, plan);
   Pivots p;
-  int startflag = 1, previous = 0;
+  sampling::Chain& chain = m.ev.chains[0];
+  const sampling::ChainLp chain_lp = sampling::chain_lp(ctx, m.ev, 0);
+  chain.startflag = 1;
+  int previous = 0;
   for (int v = 1; v <= plan.rows; ++v) {
     const int k = m.ev.order[v];
     bool same = previous != 0;
@@ -117,8 +120,7 @@ Pivots count_pivots(Model& m, const sampling::PassPlan& plan) {
     }
     previous = k;
     if (same) continue;
-    int status = 0;
-    sampling::subeval(ctx, m.ev, k, 1, startflag, status);
+    sampling::solve_row(ctx, m.ev, chain, chain_lp, k, 1);
     const lp::SimplexCounters& c = m.opt->solver[lp::kSubproblemSlot].counters;
     ++p.solves;
     p.pivots += c.iterations;

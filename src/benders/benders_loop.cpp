@@ -7,6 +7,7 @@
 #include "common/free_format.h"
 #include "common/record_format.h"
 #include "lp/optimizer.h"
+#include "sampling/cut_groups.h"
 #include "sampling/evaluate.h"
 #include "sampling/statistics.h"
 #include "sampling/subproblem.h"
@@ -23,6 +24,9 @@ constexpr double kUpperConfidenceFactor = 1.649999976158142;
 
 constexpr int kColdStart = 0;
 constexpr int kWarmStart = 1;
+// A group's cut enters a multi-cut master when the group's cost exceeds its THETA by more than
+// this fraction of tolben (relative to the cost): well inside the gap the stopping test allows.
+constexpr double kGroupCutExcess = 1.0e-3;
 
 bool statistical_test(int s) { return s == 2 || s == 3 || s == 6 || s == 7 || s == 11; }
 bool sampled(int s) { return s >= 2 && s <= 11 && s != 4 && s != 5; }
@@ -83,6 +87,7 @@ int solve_regularized_master(const sampling::Context& ctx, const sampling::Evalu
   lp::Regularization& reg = opt.regularization;
   const int n = opt.slot[lp::kMasterSlot].n;
   reg.rho = ctx.params.rho;
+  reg.free_columns = n - ctx.model.n1;
   reg.xhat.assign(ev.best_master_primal.begin(), ev.best_master_primal.begin() + n + 1);
   lp::select_problem(opt, lp::kMasterSlot);
   lp::set_objective_mode(opt, u, 1, ctx.log_unit);
@@ -161,10 +166,41 @@ bool loop_ends(const sampling::Context& ctx, const sampling::Evaluation& ev, Sol
   return false;
 }
 
-int add_evaluation_cut(const sampling::Context& ctx, sampling::Evaluation& ev, SolveState& st) {
-  const Cut cut{ev.cut.gus.data(), ev.cut.gls, ev.cut.variance};
-  const CutResult result = add_cut(ctx.optimizer.slot[lp::kMasterSlot], st.rows, cut,
-                                   st.iterations, ctx.units, ctx.params, ctx.log_unit);
+// The cuts a multi-cut master takes from an evaluation: the cut of every group whose share of the
+// estimate exceeds its THETA at the proposal (a group whose cuts already meet its cost adds
+// nothing), or the evaluation's one cut on THETA itself when it is a feasibility cut or comes
+// from the expected values.
+int pool_cuts(const sampling::Context& ctx, const sampling::Evaluation& ev, SolveState& st, int s) {
+  const int theta = ctx.model.n1 + 1;
+  const bool optimality = ev.cut.gus[theta] == 1.0;
+  if (s == 1 || !optimality) {
+    st.new_cuts[0] = PoolCut{0, ev.cut.gus.data(), ev.cut.gus[theta], ev.cut.gls, ev.cut.variance};
+    return 1;
+  }
+  const sampling::CutGroups& groups = ev.groups;
+  const double tolerance = kGroupCutExcess * ctx.params.tolben;
+  int count = 0;
+  for (int g = 1; g <= groups.count; ++g) {
+    const double excess = groups.objs[g] - ctx.master_primal[theta + g];
+    if (!(excess > tolerance * std::max(1.0, std::fabs(groups.objs[g])))) continue;
+    st.new_cuts[count++] =
+        PoolCut{g, sampling::group_gus(ev, g), 0.0, groups.gls[g], groups.variance[g]};
+  }
+  return count;
+}
+
+int add_evaluation_cut(const sampling::Context& ctx, sampling::Evaluation& ev, SolveState& st,
+                       int s) {
+  lp::ProblemSlot& master = ctx.optimizer.slot[lp::kMasterSlot];
+  CutResult result = CutResult::stored;
+  if (st.rows.pool.groups > 0) {
+    const int count = pool_cuts(ctx, ev, st, s);
+    result = add_pool_cuts(master, st.rows, st.new_cuts.data(), count, st.iterations, ctx.units,
+                           ctx.params, ctx.log_unit);
+  } else {
+    const Cut cut{ev.cut.gus.data(), ev.cut.gls, ev.cut.variance};
+    result = add_cut(master, st.rows, cut, st.iterations, ctx.units, ctx.params, ctx.log_unit);
+  }
   if (result == CutResult::missing_location) {
     write_free(ctx.units, kErrUnit, "error: missing location for cut coefficient");
     return sampling::kErrorExit;
@@ -181,12 +217,40 @@ int iterate(const sampling::Context& ctx, sampling::Evaluation& ev, SolveState& 
       write_record(ctx.units, kSolutionUnit, "(1x, a32, 1x, 1pe15.5)",
                    {SV("expected total cost:"), ev.current_total});
     }
-    if (add_evaluation_cut(ctx, ev, st) != sampling::kOk) return sampling::kErrorExit;
+    if (add_evaluation_cut(ctx, ev, st, s) != sampling::kOk) return sampling::kErrorExit;
     clock_interval(ctx.clock, nullptr);
     if (solve_next_master(ctx, ev, st, ireg) != sampling::kOk) return sampling::kErrorExit;
     write_table_row(ctx.units, st, ev);
     if (loop_ends(ctx, ev, st, s)) return sampling::kOk;
   }
+}
+
+// The cut rows of a multi-cut master as the lower-bound statistic counts cuts: one entry per
+// iteration whose cuts are in the master, with the largest dual of its rows and their summed
+// variance, so that a binding cut still stands for one evaluation.
+sampling::CutRows cuts_by_iteration(SolveState& st) {
+  CutPool& pool = st.rows.pool;
+  int used = 0;
+  for (int r = 1; r <= st.rows.nzrows; ++r) {
+    if (pool.holder[r] >= 0) pool.taken[++used] = r;
+  }
+  const auto older = [&pool](int a, int b) {
+    return pool.source[a] != pool.source[b] ? pool.source[a] < pool.source[b] : a < b;
+  };
+  std::sort(pool.taken.begin() + 1, pool.taken.begin() + used + 1, older);
+  int count = 0;
+  for (int i = 1; i <= used; ++i) {
+    const int r = pool.taken[i];
+    if (i == 1 || pool.source[r] != pool.source[pool.taken[i - 1]]) {
+      ++count;
+      st.iteration_duals[count] = st.cut_duals[r];
+      st.iteration_variance[count] = 0.0;
+    }
+    st.iteration_duals[count] = std::max(st.iteration_duals[count], st.cut_duals[r]);
+    st.iteration_variance[count] += st.rows.variance[r];
+  }
+  return sampling::CutRows{st.iteration_duals, st.iteration_variance, st.rows.first_stage_rows,
+                           count};
 }
 
 // The lower end of the confidence interval once the loop has ended.
@@ -195,8 +259,11 @@ void settle_lower_end(const sampling::Context& ctx, const sampling::Evaluation& 
   st.lower_end = st.master_objective;
   if (s == 1 || s == 4 || s == 5) return;
   lower_bound_variance(ctx, st);
-  const sampling::CutRows rows{st.cut_duals, st.rows.variance, st.rows.first_stage_rows,
-                               st.iterations};
+  const sampling::CutRows rows =
+      st.rows.pool.groups > 0
+          ? cuts_by_iteration(st)
+          : sampling::CutRows{st.cut_duals, st.rows.variance, st.rows.first_stage_rows,
+                              st.iterations};
   const double error = presampled(s) ? sampling::lbstats_presample(ctx, ev, rows)
                                      : sampling::lbstats(ctx, ev, rows);
   st.lower_end = st.master_objective - error;

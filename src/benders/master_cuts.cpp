@@ -18,16 +18,16 @@ int largest_slack_row(const CutRows& rows) {
   return best;
 }
 
-void trace_cut(Units& u, int unit, const lp::ProblemSlot& master, const Cut& cut, int iterations,
-               int row, double slack, double tolw) {
+}  // namespace
+
+void trace_stored_cut(Units& u, int unit, const lp::ProblemSlot& master, const Cut& cut,
+                      int iterations, int row, double slack, double tolw) {
   write_free(u, unit, "cut: inum,icutnz,slack=", iterations, row, slack);
   for (int j = 1; j <= master.n; ++j) {
     if (cut.gus[j] > tolw || cut.gus[j] < -tolw) write_free(u, unit, "gus(", j, "):", cut.gus[j]);
   }
   write_free(u, unit, "gls:", cut.gls);
 }
-
-}  // namespace
 
 void allocate_cut_rows(CutRows& rows, int first_stage_rows, int nzrows) {
   rows.first_stage_rows = first_stage_rows;
@@ -51,12 +51,22 @@ bool store_cut_row(lp::ProblemSlot& master, const double* gus, double gls, int r
       return false;
     }
   }
+  set_cut_limit(master, row, gls);
+  return true;
+}
+
+void set_cut_limit(lp::ProblemSlot& master, int row, double gls) {
   if (gls > lp::kInfiniteBound) gls = lp::kInfiniteBound;
   // The row reads sum >= gls: its logical carries minus the activity, so its upper bound is -gls.
   const int logical = master.n + row;
   master.bl[logical] = -lp::kInfiniteBound;
   master.bu[logical] = gls >= -lp::kInfiniteBound ? -gls : lp::kInfiniteBound;
-  return true;
+}
+
+CutResult rows_exhausted(Units& units, int log_unit, int& iterations) {
+  write_free(units, log_unit, "not enough nzrows, program terminated");
+  iterations = kRowsExhaustedCount;
+  return CutResult::rows_exhausted;
 }
 
 void cut_row_slacks(const lp::ProblemSlot& master, CutRows& rows) {
@@ -80,14 +90,12 @@ CutResult add_cut(lp::ProblemSlot& master, CutRows& rows, const Cut& cut, int& i
     cut_row_slacks(master, rows);
     target = largest_slack_row(rows);
     slack = rows.slack[target];
-    if (slack <= 0.0) {
-      write_free(units, log_unit, "not enough nzrows, program terminated");
-      iterations = kRowsExhaustedCount;
-      return CutResult::rows_exhausted;
-    }
+    if (slack <= 0.0) return rows_exhausted(units, log_unit, iterations);
   }
   rows.variance[target] = cut.variance;
-  if (params.ibug >= 5) trace_cut(units, log_unit, master, cut, iterations, target, slack, params.tolw);
+  if (params.ibug >= 5) {
+    trace_stored_cut(units, log_unit, master, cut, iterations, target, slack, params.tolw);
+  }
   if (!store_cut_row(master, cut.gus, cut.gls, rows.first_stage_rows + target)) {
     return CutResult::missing_location;
   }

@@ -12,4 +12,11 @@ void allocate_solve_state(SolveState& state, int master_rows, int master_columns
   allocate_cut_rows(state.rows, first_stage_rows, nzrows);
 }
 
+void allocate_cut_groups(SolveState& state, const lp::ProblemSlot& master, int theta, int groups) {
+  allocate_cut_pool(state.rows, master, theta, groups);
+  state.new_cuts.assign(groups, PoolCut{});
+  state.iteration_duals.assign(state.rows.nzrows + 1, 0.0);
+  state.iteration_variance.assign(state.rows.nzrows + 1, 0.0);
+}
+
 }  // namespace tarvo::benders

@@ -27,10 +27,18 @@ struct SolveState {
   std::vector<double> cut_duals;      // [1..nzrows] duals of the reserved rows
   std::vector<double> gradient;       // [1..n] of the regularization term
   CutRows rows;
+  // A multi-cut master: the cuts of the current iteration, and the lower-bound statistic's view
+  // of the cut rows, one entry per iteration whose cuts are still in the master.
+  std::vector<PoolCut> new_cuts;         // [0..groups - 1]
+  std::vector<double> iteration_duals;   // [1..nzrows] largest dual of the iteration's rows
+  std::vector<double> iteration_variance;  // [1..nzrows] summed variance of its rows
 };
 
 // Sizes the state once for the master slot as the decomposition built it.
 void allocate_solve_state(SolveState& state, int master_rows, int master_columns,
                           int first_stage_rows, int nzrows);
+
+// Sizes the multi-cut part of the state for a master with `groups` group columns after THETA.
+void allocate_cut_groups(SolveState& state, const lp::ProblemSlot& master, int theta, int groups);
 
 }  // namespace tarvo::benders

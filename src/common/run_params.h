@@ -1,6 +1,7 @@
 #pragma once
-// The sixteen run parameters, with their defaults, and the switch for integer columns. Read once at the start of a run (driver);
-// every subsystem reads them from here.
+// The run parameters, with their defaults: the sixteen of every run, the switch for integer
+// columns, the cut groups and the threads. Read once at the start of a run (driver); every
+// subsystem reads them from here.
 
 namespace tarvo {
 
@@ -23,6 +24,8 @@ struct RunParams {
   int iseed = 12933428;
   // 1: integer columns of the core are solved as continuous, with a warning (not echoed).
   int irelax = 0;
+  int ncuts = 1;     // cut groups of the master: 1 a single cut, 0 one per outcome, k > 1 k groups
+  int nthreads = 1;  // threads that solve subproblems at the same time
 };
 
 }  // namespace tarvo

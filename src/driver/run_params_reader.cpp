@@ -11,18 +11,19 @@
 namespace tarvo::driver {
 namespace {
 
-// The sixteen echoed parameters, then irelax.
-constexpr int kParams = 17;
-constexpr int kEchoedParams = 16;
+// The sixteen parameters of every run, then irelax, ncuts and nthreads. All but irelax are
+// echoed.
+constexpr int kParams = 19;
 constexpr std::array<std::string_view, kParams> kUpperKeywords = {
     "ISTRAT  ", "NSAMPLES", "NZROWS  ", "MAXIT   ", "IWRITE  ", "IBUG    ", "ISCRATCH", "IRESAMP ",
     "IGMS    ", "IREG    ", "RHO     ", "TOLBEN  ", "TOLW    ", "IAPPR   ", "MAXTIME ", "ISEED   ",
-    "IRELAX  "};
+    "IRELAX  ", "NCUTS   ", "NTHREADS"};
 
-constexpr std::array<std::string_view, kEchoedParams> kEchoLabels = {
+constexpr std::array<std::string_view, kParams> kEchoLabels = {
     "istrat    = ", "nsamples  = ", "nzrows    = ", "maxit     = ", "iwrite    = ", "ibug      = ",
     "iscratch  = ", "iresamp   = ", "igms      = ", "ireg      = ", "rho       = ", "tolben    = ",
-    "tolw      = ", "iappr     = ", "maxtime   = ", "iseed     = "};
+    "tolw      = ", "iappr     = ", "maxtime   = ", "iseed     = ", "",             "ncuts     = ",
+    "nthreads  = "};
 
 constexpr double kSmallestRho = 1.0e-6;
 
@@ -55,6 +56,8 @@ int* int_param(RunParams& p, int k) {
     case 14: return &p.iappr;
     case 16: return &p.iseed;
     case 17: return &p.irelax;
+    case 18: return &p.ncuts;
+    case 19: return &p.nthreads;
     default: return nullptr;
   }
 }
@@ -164,7 +167,8 @@ void echo_run_params(Units& units, int unit, const RunParams& params) {
   RunParams copy = params;
   write_free(units, unit, "parameters: ");
   write_free(units, unit);
-  for (int k = 1; k <= kEchoedParams; ++k) {
+  for (int k = 1; k <= kParams; ++k) {
+    if (kEchoLabels[k - 1].empty()) continue;
     if (const double* real = real_param(copy, k)) {
       write_free(units, unit, kEchoLabels[k - 1], *real);
     } else {

@@ -8,7 +8,9 @@
 #include "driver/run_params_reader.h"
 #include "driver/solution_reader.h"
 #include "driver/solution_report.h"
+#include "input/decompose.h"
 #include "input/stoch_file.h"
+#include "sampling/cut_groups.h"
 #include "sampling/draw.h"
 
 namespace tarvo::driver {
@@ -91,13 +93,37 @@ bool run_strategy(RunState& run, int s, int ireg) {
   return true;
 }
 
+// Cut groups of a normal run's master; a strategy without fixed points says that it ignores ncuts.
+int cut_groups(RunState& run) {
+  if (run.evaluation_run) return 1;
+  if (run.params.ncuts != 1 && sampling::grouped_points(run.params, run.store) == 0.0) {
+    write_free(run.units, run.log_unit,
+               "ncuts ignored: the strategy draws new outcomes, one cut per iteration");
+  }
+  return sampling::cut_group_count(run.params, run.store);
+}
+
 }  // namespace
 
 bool prepare_solve(RunState& run) {
-  const lp::ProblemSlot& master = run.optimizer.slot[lp::kMasterSlot];
+  lp::ProblemSlot& master = run.optimizer.slot[lp::kMasterSlot];
+  const int groups = cut_groups(run);
+  const input::MessageUnits to{run.log_unit, run.message_unit};
+  if (groups > 1 &&
+      input::failed(input::add_cut_groups(master, run.model, groups, run.units, to))) {
+    return false;
+  }
   benders::allocate_solve_state(run.solve, master.m, master.n, run.model.m1, run.params.nzrows);
+  if (groups > 1) benders::allocate_cut_groups(run.solve, master, run.model.n1 + 1, groups);
   run.solve_ready = true;
-  return sampling::allocate_evaluation(run.evaluation, sampling_context(run)) == sampling::kOk;
+  if (sampling::allocate_evaluation(run.evaluation, sampling_context(run)) != sampling::kOk) {
+    return false;
+  }
+  if (groups > 1) {
+    const double points = sampling::grouped_points(run.params, run.store);
+    sampling::allocate_cut_groups(run.evaluation, groups, static_cast<int>(points));
+  }
+  return true;
 }
 
 bool solve_stochastic_program(RunState& run) {

@@ -31,7 +31,10 @@ void write_master_records(RunState& run, bool rows) {
   const benders::SolveState& st = run.solve;
   const double tolw = run.params.tolw;
   if (!rows) {
-    for (int j = 1; j <= run.model.n1; ++j) {
+    // The first-stage columns, then the THETA of every cut group (not THETA itself).
+    const int theta = run.model.n1 + 1;
+    for (int j = 1; j <= master.n; ++j) {
+      if (j == theta) continue;
       write_item(run.units, j, master.names[j], st.master_primal[j], st.master_duals[master.m + j],
                  basis_code(master.hs[j]), tolw);
     }

@@ -311,6 +311,68 @@ InputStatus decompose(const lp::ProblemSlot& core, const StageNames& names, int 
   return InputStatus::ok;
 }
 
+namespace {
+
+// Moves the row part of the column-then-row arrays `shift` places up, to make room for columns.
+void shift_rows(lp::ProblemSlot& master, int shift) {
+  for (int k = master.n + master.m; k > master.n; --k) {
+    master.bl[k + shift] = master.bl[k];
+    master.bu[k + shift] = master.bu[k];
+    master.xn[k + shift] = master.xn[k];
+    master.hs[k + shift] = master.hs[k];
+    master.names[k + shift] = master.names[k];
+  }
+}
+
+bool group_capacity(const lp::ProblemSlot& master, const Decomposition& dec, int groups,
+                    Units& units, const MessageUnits& to) {
+  const long long rows = master.m + 1LL;
+  const long long columns = static_cast<long long>(master.n) + groups;
+  // THETASUM's entries in THETA and every group column, one group coefficient per cut row.
+  const long long elements = static_cast<long long>(master.ne) + 1 + groups + dec.nzrows;
+  const auto need = [&](long long count, const char* what) {
+    report_need(units, to, static_cast<int>(std::min<long long>(count, 2147483647)), what);
+    return false;
+  };
+  if (rows > master.mmax) return need(rows, " rows for master");
+  if (columns > master.nmax) return need(columns, " columns for master");
+  if (elements > master.nemax) return need(elements, " nonzeros for master");
+  return true;
+}
+
+}  // namespace
+
+InputStatus add_cut_groups(lp::ProblemSlot& master, Decomposition& dec, int groups, Units& units,
+                           const MessageUnits& to) {
+  if (!group_capacity(master, dec, groups, units, to)) return InputStatus::storage;
+  shift_rows(master, groups);
+  master.n += groups;
+  master.m += 1;
+  master.nb = master.n + master.m;
+  const int link = master.m;
+  set_free_row(master, link, lp::make_name("THETASUM"));
+  master.bl[master.n + link] = master.bu[master.n + link] = 0.0;
+  master.row_type[link] = lp::kRowE;
+  const int theta = dec.n1 + 1;
+  int p = master.ne + 1;
+  master.ha[p] = link;
+  master.a[p] = 1.0;
+  for (int g = 1; g <= groups; ++g) {
+    const int k = theta + g;
+    master.ka[k] = ++p;
+    master.ha[p] = link;
+    master.a[p] = -1.0;
+    set_theta_column(master, k);
+    master.names[k] = lp::make_name(laid_out("(a3, i5.5)", {"THG", g}));
+  }
+  master.ka[master.n + 1] = p + 1;
+  master.ne = p;
+  dec.groups = groups;
+  write_if_open(units, to.log, free_line("cut groups:", groups, " master rows", master.m, " cols",
+                                         master.n, " nonz", master.ne));
+  return InputStatus::ok;
+}
+
 InputStatus dump_split_problems(const lp::ProblemSlot& master, const lp::ProblemSlot& sub,
                                 const MpsNames& names, Units& units, int dump_unit) {
   const InputStatus first = dump_problem(master, lp::kMasterSlot, names, units, "MODEL.P01", dump_unit);

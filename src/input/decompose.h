@@ -22,6 +22,15 @@ InputStatus decompose(const lp::ProblemSlot& core, const StageNames& names, int 
                       lp::ProblemSlot& master, lp::ProblemSlot& sub, Decomposition& dec,
                       Units& units, const MessageUnits& to);
 
+// Gives the master a THETA column for each of `groups` cut groups, after THETA (THG00001,
+// THG00002, ...; lower bound -1e9 as THETA's), and the row THETASUM after the cut rows, which
+// holds THETA to their sum (THETA - sum of the group columns = 0), so that THETA stays the
+// recourse estimate and a cut on THETA itself remains valid. Each group column carries its entry
+// in THETASUM; the master keeps room for one group coefficient per cut row, which the Benders
+// loop places. Capacity shortfalls report as decompose does and return storage.
+InputStatus add_cut_groups(lp::ProblemSlot& master, Decomposition& dec, int groups, Units& units,
+                           const MessageUnits& to);
+
 // The debug dumps written when iwrite >= 6: master to MODEL.P01, subproblem to MODEL.P02.
 InputStatus dump_split_problems(const lp::ProblemSlot& master, const lp::ProblemSlot& sub,
                                 const MpsNames& names, Units& units, int dump_unit);

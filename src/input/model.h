@@ -25,6 +25,7 @@ struct Decomposition {
   int m1 = 0;  // master own rows, objective included (cut rows follow)
   int m2 = 0;  // subproblem rows, objective included
   int nzrows = 0;
+  int groups = 0;  // cut groups with a THETA column each after THETA (0: the single cut)
 
   // Coupling matrix B, column-wise over master columns 1..n1 (+1 for THETA, empty): values are
   // the negated core coefficients, row k lines up with subproblem row k. 1-based.

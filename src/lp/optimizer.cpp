@@ -1,6 +1,8 @@
 #include "lp/optimizer.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <string_view>
 
 #include "common/free_format.h"
@@ -59,16 +61,6 @@ std::string_view start_word(int start) {
   if (start == 0) return "cold";
   if (start == 1) return "warm";
   return "hot ";
-}
-
-void report_inform(Units& units, int out_unit, int inform) {
-  if (inform == 1) {
-    write_free(units, out_unit, "ERROR: PROBLEM INFEASIBLE");
-  } else if (inform == 2) {
-    write_free(units, out_unit, "ERROR: PROBLEM UNBOUNDED");
-  } else if (inform != 0) {
-    write_free(units, out_unit, "ERROR: ERROR CODE: ", inform);
-  }
 }
 
 }  // namespace
@@ -137,18 +129,62 @@ void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_uni
 int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int start,
                   double& objective, double& /*spare1*/, std::vector<double>& duals,
                   double& /*spare2*/, std::vector<double>& primal) {
+  inform = solve_quietly(active_slot(opt), opt.solver[opt.active], opt.options, opt, units,
+                         start, objective, duals, primal);
+  report_solve_status(units, out_unit, inform);
+  return 0;
+}
+
+void hold_problem(HeldProblem& held, const ProblemSlot& from) {
+  allocate_slot(held.slot, from.m, from.n, from.ne);
+  const std::size_t nb = static_cast<std::size_t>(from.n) + from.m;
+  const std::size_t ne = static_cast<std::size_t>(from.ne);
+  ProblemSlot& to = held.slot;
+  to.m = from.m;
+  to.n = from.n;
+  to.nb = from.nb;
+  to.ne = from.ne;
+  to.nncon = from.nncon;
+  to.nnobj = from.nnobj;
+  to.nnjac = from.nnjac;
+  to.iobj = from.iobj;
+  to.objadd = from.objadd;
+  to.ns = from.ns;
+  to.loaded = from.loaded;
+  to.problem_name = from.problem_name;
+  std::copy_n(from.a.begin(), ne + 1, to.a.begin());
+  std::copy_n(from.ha.begin(), ne + 1, to.ha.begin());
+  std::copy_n(from.ka.begin(), from.n + 2, to.ka.begin());
+  for (auto [f, t] : {std::pair{&from.bl, &to.bl}, {&from.bu, &to.bu}, {&from.xn, &to.xn}}) {
+    std::copy_n(f->begin(), nb + 1, t->begin());
+  }
+  std::copy_n(from.hs.begin(), nb + 1, to.hs.begin());
+  std::copy_n(from.names.begin(), nb + 1, to.names.begin());
+  std::copy_n(from.row_type.begin(), from.m + 1, to.row_type.begin());
+  allocate_simplex_state(held.solver, from.m, from.n, from.ne);
+}
+
+int solve_quietly(ProblemSlot& slot, SimplexState& solver, Options& options, const Optimizer& opt,
+                  Units& units, int start, double& objective, std::vector<double>& duals,
+                  std::vector<double>& primal) {
   // "MPS file 0" for every solve, set directly: parsing the phrase would cost more than the
   // re-solve of a subproblem and writes nothing anyway.
-  opt.options.ival[kMpsFile] = 0;
-  ProblemSlot& s = active_slot(opt);
-  inform = 0;
-  inform = optimizer_solve(opt.solver[opt.active], opt.options, units, s, start_word(start),
-                           opt.names, opt.nwcore, opt.regularization);
-  objective = s.obj;
-  copy_solution(s, duals, primal);
-  if (inform == 1) objective = s.sinf;
-  report_inform(units, out_unit, inform);
-  return 0;
+  options.ival[kMpsFile] = 0;
+  const int inform = optimizer_solve(solver, options, units, slot, start_word(start), opt.names,
+                                     opt.nwcore, opt.regularization);
+  objective = inform == 1 ? slot.sinf : slot.obj;
+  copy_solution(slot, duals, primal);
+  return inform;
+}
+
+void report_solve_status(Units& units, int out_unit, int inform) {
+  if (inform == 1) {
+    write_free(units, out_unit, "ERROR: PROBLEM INFEASIBLE");
+  } else if (inform == 2) {
+    write_free(units, out_unit, "ERROR: PROBLEM UNBOUNDED");
+  } else if (inform != 0) {
+    write_free(units, out_unit, "ERROR: ERROR CODE: ", inform);
+  }
 }
 
 }  // namespace tarvo::lp

@@ -31,6 +31,15 @@ struct Optimizer {
   Regularization regularization;
 };
 
+// A problem held beside the three slots with its own simplex state and options, so that several
+// such problems can be solved at the same time from different threads. Its basis, factors and
+// scales stay between its solves as a slot's do.
+struct HeldProblem {
+  ProblemSlot slot;
+  SimplexState solver;
+  Options options;
+};
+
 // Reads the options file (SIMPLEX.SPC unless named) and sizes the slots from it. Returns 0 on
 // success, 13 on failure.
 int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug,
@@ -56,6 +65,19 @@ void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_uni
 int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int start,
                   double& objective, double& spare1, std::vector<double>& duals, double& spare2,
                   std::vector<double>& primal);
+// Sizes `held` for exactly the problem in `from` and copies that problem (matrix, bounds, basis,
+// values, names) into it.
+void hold_problem(HeldProblem& held, const ProblemSlot& from);
+// solve_problem for a given slot, simplex state and options (one of the optimizer's slots or a
+// held problem), writing no message: report_solve_status writes the one solve_problem writes. Of
+// the optimizer it reads only the names, the workspace size and the regularization, so distinct
+// slots with their own states and options may be solved at the same time from different threads
+// while the print and summary files are closed.
+int solve_quietly(ProblemSlot& slot, SimplexState& solver, Options& options, const Optimizer& opt,
+                  Units& units, int start, double& objective, std::vector<double>& duals,
+                  std::vector<double>& primal);
+// The line solve_problem writes to out_unit for a status other than 0.
+void report_solve_status(Units& units, int out_unit, int inform);
 // The quadratic regularization term and its gradient; x and g are 1-based (x[1..n]); column n,
 // THETA, takes no part.
 void regobj(const Regularization& reg, int mode, int n, const double* x, double& f, double* g,

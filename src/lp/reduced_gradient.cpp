@@ -2,7 +2,7 @@
 // reduced-gradient method: the variables are basic, superbasic (free to move between their
 // bounds) or nonbasic at a bound. Each iteration takes the Newton step in the space of the
 // superbasics, with the reduced Hessian Z^T H Z formed from the known diagonal Hessian of f
-// (1/rho on the first n-1 columns, 0 on the last) and factorized by a small dense Cholesky; a
+// (1/rho on the columns of the term, 0 on the rest) and factorized by a small dense Cholesky; a
 // bound met on the way ends the step and takes its variable out of the superbasic set. When the
 // reduced gradient is small, a nonbasic variable whose reduced gradient invites it to move joins
 // the superbasic set; when none does, the point is optimal.
@@ -45,7 +45,7 @@ namespace {
 void set_hessian(SimplexState& s, const Regularization& reg) {
   std::fill(s.hessian_diag.begin(), s.hessian_diag.begin() + s.n + s.m, 0.0);
   const int nn = std::min(s.nnobj, s.n);
-  for (int j = 0; j + 1 < nn; ++j) s.hessian_diag[j] = s.sense * s.scale[j] * s.scale[j] / reg.rho;
+  for (int j = 0; j + reg.free_columns < nn; ++j) s.hessian_diag[j] = s.sense * s.scale[j] * s.scale[j] / reg.rho;
 }
 
 void collect_superbasics(SimplexState& s) {

@@ -19,6 +19,9 @@ namespace tarvo::lp {
 struct Regularization {
   std::vector<double> xhat;  // [1..n]
   double rho = 1000.0;
+  // Columns at the end of the master that take no part in the term: THETA, and the THETA of
+  // every cut group when the master carries them.
+  int free_columns = 1;
 };
 
 // State of one variable of the working problem (columns 0..n-1, then one logical per row).

@@ -1,4 +1,5 @@
 #include "sampling/cut.h"
+#include "sampling/cut_groups.h"
 #include "sampling/solve_pass.h"
 #include "sampling/strategies.h"
 
@@ -15,6 +16,18 @@ double variance_of_mean(const Evaluation& ev, int n) {
   return sum / n / (n - 1);
 }
 
+// Each group's cut, and its share of the variance of the mean: the squared deviations of its
+// points, divided as variance_of_mean divides their sum.
+void estimate_group_means(const Context& ctx, Evaluation& ev, int n) {
+  clear_groups(ev);
+  for (int k = 1; k <= n; ++k) {
+    add_to_group(ev, k, 1.0 / n, ev.costs[k], point_u(ev, k));
+    const double d = ev.costs[k] - ev.cut.objs;
+    add_group_variance(ev, k, d * d / n / (n - 1));
+  }
+  close_groups(ctx, ev);
+}
+
 }  // namespace
 
 void estimate_mean(const Context& ctx, Evaluation& ev) {
@@ -27,6 +40,7 @@ void estimate_mean(const Context& ctx, Evaluation& ev) {
   }
   close_cut(ctx, ev);
   ev.cut.variance = variance_of_mean(ev, n);
+  if (grouped(ev, n)) estimate_group_means(ctx, ev, n);
   if (ctx.params.ibug >= 5) write_cut_trace(ctx, ev);
 }
 

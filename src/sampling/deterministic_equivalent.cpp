@@ -29,7 +29,7 @@ struct DepWriter {
   DepSizes& sizes;
   char row_initial = 0;
   char column_initial = 0;
-  Evaluation ev{};  // the outcome in hand: index, current, b_work, rhs_work
+  SolveWork work{};  // the outcome in hand: index, current, b_work, rhs_work
 };
 
 // A letter no name of the list starts with, the preferred one if it can be; 0 when every letter
@@ -101,27 +101,25 @@ void put_bounds(DepWriter& w, double lower, double upper, const lp::Name8& colum
   for (int k = 0; k < count; ++k) put(w, lines[k].key, kBoundsSet, column, lines[k].value, lines[k].has_value);
 }
 
-void size_outcome(Evaluation& ev, const TwoStageModel& m) {
-  ev.nblocks = m.store.count;
-  ev.nentries = m.store.entries;
-  ev.m2 = m.model.m2;
-  ev.index.assign(ev.nblocks + 1, 1);
-  ev.current.assign(ev.nentries + 1, 0.0);
-  ev.b_work.assign(m.model.b_nonzeros + 1, 0.0);
-  ev.rhs_work.assign(m.model.m2 + 1, 0.0);
+void size_outcome(SolveWork& work, const TwoStageModel& m) {
+  work.index.assign(m.store.count + 1, 1);
+  work.current.assign(m.store.entries + 1, 0.0);
+  work.b_work.assign(m.model.b_nonzeros + 1, 0.0);
+  work.rhs_work.assign(m.model.m2 + 1, 0.0);
 }
 
-// Scenario s's outcome into the subproblem slot, ev.b_work and ev.rhs_work.
+// Scenario s's outcome into the subproblem slot, work.b_work and work.rhs_work.
 void take_scenario(DepWriter& w, int s) {
-  for (int b = 1; b <= w.set.blocks; ++b) w.ev.index[b] = w.set.outcome[static_cast<std::size_t>(s) * w.set.blocks + b - 1];
-  outval(w.ev, w.m.store);
+  for (int b = 1; b <= w.set.blocks; ++b) w.work.index[b] = w.set.outcome[static_cast<std::size_t>(s) * w.set.blocks + b - 1];
+  outval(w.work, w.m.store);
   int bad_kind = 0;
-  apply_outcome(w.m.sub, w.m.model, w.m.store, w.ev, bad_kind);  // the reader stores known kinds only
+  // The reader stores known kinds only.
+  apply_outcome(w.m.sub, w.m.model, w.m.store, w.m.store.entries, w.work, bad_kind);
 }
 
 // Limits of sub row i in the scenario in hand: its right-hand side moves both finite limits.
 std::array<double, 2> scenario_limits(const DepWriter& w, int i) {
-  const double shift = w.ev.rhs_work[i] - w.m.model.h[i];
+  const double shift = w.work.rhs_work[i] - w.m.model.h[i];
   double lower = lp::row_lower(w.m.sub, i);
   double upper = lp::row_upper(w.m.sub, i);
   if (lower > -lp::kInfiniteBound) lower += shift;
@@ -170,7 +168,7 @@ std::vector<double> coupling_by_scenario(DepWriter& w) {
   values.resize(static_cast<std::size_t>(scenario_count(w.set)) * nonzeros);
   for (int s = 0; s < scenario_count(w.set); ++s) {
     take_scenario(w, s);
-    std::copy(w.ev.b_work.begin() + 1, w.ev.b_work.end(), values.begin() + static_cast<std::size_t>(s) * nonzeros);
+    std::copy(w.work.b_work.begin() + 1, w.work.b_work.end(), values.begin() + static_cast<std::size_t>(s) * nonzeros);
   }
   return values;
 }
@@ -312,7 +310,7 @@ bool write_deterministic_equivalent(const TwoStageModel& m, const ScenarioSet& s
     error = "first-stage names start with every letter: no names are left for the scenarios";
     return false;
   }
-  size_outcome(w.ev, m);
+  size_outcome(w.work, m);
   write_header(w);
   write_rows(w);
   write_columns(w);

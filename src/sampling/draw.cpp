@@ -38,34 +38,35 @@ void drawindex(Evaluation& ev, const input::OutcomeStore& store, const std::vect
   }
 }
 
-void outprob(Evaluation& ev, const input::OutcomeStore& store) {
+void outprob(SolveWork& work, const input::OutcomeStore& store) {
   for (int b = 1; b <= store.count; ++b) {
-    ev.block_prob[b] = store.probs[store.prob_start[b] + ev.index[b] - 1];
+    work.block_prob[b] = store.probs[store.prob_start[b] + work.index[b] - 1];
   }
 }
 
-void outval(Evaluation& ev, const input::OutcomeStore& store) {
+void outval(SolveWork& work, const input::OutcomeStore& store) {
   for (int b = 1; b <= store.count; ++b) {
     const int q = store.nse[b];
-    const int from = store.value_start[b] + (ev.index[b] - 1) * q;
+    const int from = store.value_start[b] + (work.index[b] - 1) * q;
     const int to = store.entry_start[b];
-    for (int j = 0; j < q; ++j) ev.current[to + j] = store.values[from + j];
+    for (int j = 0; j < q; ++j) work.current[to + j] = store.values[from + j];
   }
 }
 
 void expvals(Evaluation& ev, input::OutcomeStore& store) {
-  for (int b = 1; b <= store.count; ++b) ev.index[b] = 1;
+  SolveWork& w = ev.chains[0].work;
+  for (int b = 1; b <= store.count; ++b) w.index[b] = 1;
   for (int b = 1; b <= store.count; ++b) {
     const int first = store.entry_start[b];
     const int q = store.nse[b];
     for (int j = 0; j < q; ++j) store.expected[first + j] = 0.0;
     for (int i = 1; i <= store.nsoc[b]; ++i) {
-      ev.index[b] = i;
-      outprob(ev, store);
-      outval(ev, store);
-      for (int j = 0; j < q; ++j) store.expected[first + j] += ev.block_prob[b] * ev.current[first + j];
+      w.index[b] = i;
+      outprob(w, store);
+      outval(w, store);
+      for (int j = 0; j < q; ++j) store.expected[first + j] += w.block_prob[b] * w.current[first + j];
     }
-    ev.index[b] = 1;
+    w.index[b] = 1;
   }
 }
 

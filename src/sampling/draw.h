@@ -14,13 +14,15 @@ namespace tarvo::sampling {
 // outcome absorbs any shortfall of the probabilities; a u in no interval leaves outcome 1.
 void drawindex(Evaluation& ev, const input::OutcomeStore& store, const std::vector<double>& probs);
 
-// block_prob(b) := probability of the current outcome of block b.
-void outprob(Evaluation& ev, const input::OutcomeStore& store);
+// work.block_prob(b) := probability of the current outcome work.index(b) of block b.
+void outprob(SolveWork& work, const input::OutcomeStore& store);
 
-// current(e) := value of parameter e in the current outcome of its block, for every parameter.
-void outval(Evaluation& ev, const input::OutcomeStore& store);
+// work.current(e) := value of parameter e in the current outcome of its block, for every
+// parameter.
+void outval(SolveWork& work, const input::OutcomeStore& store);
 
-// store.expected := the expected value of every random parameter. Leaves every index at 1.
+// store.expected := the expected value of every random parameter (chain 0's work serves as
+// scratch). Leaves every index at 1.
 void expvals(Evaluation& ev, input::OutcomeStore& store);
 
 }  // namespace tarvo::sampling

@@ -19,18 +19,22 @@ std::string dump_name(int problem, const char* what) {
 
 }  // namespace
 
-int dumpbad(const Context& ctx, int problem, int status) {
+int dumpbad(const Context& ctx, int problem, int status, const lp::ProblemSlot& slot) {
   if (status == kInfeasible) {
     ctx.model_status = kModelInfeasible;
-    dump_slot(ctx, problem, dump_name(problem, "infez.mps"));
+    dump_slot(ctx, slot, problem, dump_name(problem, "infez.mps"));
   } else if (status == kUnbounded) {
     ctx.model_status = kModelUnbounded;
-    dump_slot(ctx, problem, dump_name(problem, "unbnd.mps"));
+    dump_slot(ctx, slot, problem, dump_name(problem, "unbnd.mps"));
   } else {
     ctx.model_status = kModelError;
   }
   ctx.solver_status = kSolverFailed;
   return kErrorExit;
+}
+
+int dumpbad(const Context& ctx, int problem, int status) {
+  return dumpbad(ctx, problem, status, ctx.optimizer.slot[problem]);
 }
 
 }  // namespace tarvo::sampling

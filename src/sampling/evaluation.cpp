@@ -5,6 +5,7 @@
 
 #include "common/free_format.h"
 #include "sampling/sample_tables.h"
+#include "sampling/solve_pass.h"
 
 namespace tarvo::sampling {
 
@@ -52,8 +53,6 @@ void size_outcome_arrays(Evaluation& ev, const input::OutcomeStore& store) {
   ev.index.assign(nb + 1, 1);
   ev.visit_step.assign(nb + 1, 1);
   ev.cumulative.assign(largest_outcome_count(store) + 2, 0.0);
-  ev.block_prob.assign(nb + 1, 0.0);
-  ev.current.assign(ev.nentries + 1, 0.0);
   ev.draw_probs.assign(store.probs.size(), 0.0);
   size_approximation(ev.approx, nb, store.probs.size());
   size_approximation(ev.last_approx, nb, store.probs.size());
@@ -66,13 +65,35 @@ void size_outcome_arrays(Evaluation& ev, const input::OutcomeStore& store) {
   ev.block_variance.assign(nb + 1, 0.0);
 }
 
-void size_subproblem_arrays(Evaluation& ev, const input::Decomposition& model) {
-  ev.b_work.assign(model.b_nonzeros + 1, 0.0);
-  ev.rhs_work.assign(ev.m2 + 1, 0.0);
-  ev.coupled.assign(ev.m2 + 1, 0.0);
-  ev.primal.assign(ev.n2 + ev.m2 + 1, 0.0);
-  ev.duals.assign(ev.n2 + ev.m2 + 1, 0.0);
-  ev.u.assign(ev.n1 + 1, 0.0);
+void size_work(SolveWork& w, const Evaluation& ev, const input::Decomposition& model) {
+  w.index.assign(ev.nblocks + 1, 1);
+  w.block_prob.assign(ev.nblocks + 1, 0.0);
+  w.current.assign(ev.nentries + 1, 0.0);
+  w.b_work.assign(model.b_nonzeros + 1, 0.0);
+  w.rhs_work.assign(ev.m2 + 1, 0.0);
+  w.coupled.assign(ev.m2 + 1, 0.0);
+  w.primal.assign(ev.n2 + ev.m2 + 1, 0.0);
+  w.duals.assign(ev.n2 + ev.m2 + 1, 0.0);
+  w.u.assign(ev.n1 + 1, 0.0);
+}
+
+// As many chains as the largest pass can use, each with its own copy of the subproblem (chain 0
+// solves on the optimizer's slot), so that no pass allocates.
+void size_chains(Evaluation& ev, const Context& ctx) {
+  const int count = chain_count(ev.capacity);
+  ev.chains.resize(count);
+  for (int c = 0; c < count; ++c) {
+    Chain& chain = ev.chains[c];
+    size_work(chain.work, ev, ctx.model);
+    chain.acc_primal.assign(ev.n2 + ev.m2 + 1, 0.0);
+    chain.acc_duals.assign(ev.n2 + ev.m2 + 1, 0.0);
+    if (c > 0) lp::hold_problem(chain.held, ctx.optimizer.slot[lp::kSubproblemSlot]);
+    chain.startflag = 0;
+  }
+  ev.nthreads = std::clamp(ctx.params.nthreads, 1, count);
+}
+
+void size_subproblem_arrays(Evaluation& ev) {
   ev.u0.assign(ev.n1 + 1, 0.0);
   ev.cut.gus.assign(ev.n1 + 2, 0.0);
   ev.acc_primal.assign(ev.n2 + ev.m2 + 1, 0.0);
@@ -86,6 +107,7 @@ void size_point_arrays(Evaluation& ev) {
   ev.point_u.assign(rows * ev.n1 + 1, 0.0);
   ev.order.assign(rows + 1, 0);
   ev.solved.assign(rows + 1, 0);
+  ev.point_status.assign(rows + 1, 0);
 }
 
 }  // namespace
@@ -108,8 +130,9 @@ int allocate_evaluation(Evaluation& ev, const Context& ctx) {
   ev.capacity = static_cast<int>(rows);
   ev.nsamples = ctx.params.nsamples;
   size_outcome_arrays(ev, store);
-  size_subproblem_arrays(ev, ctx.model);
+  size_subproblem_arrays(ev);
   size_point_arrays(ev);
+  size_chains(ev, ctx);
   const double basis_bytes = rows * (ev.n2 + ev.m2);
   if (enumerates_universe(ctx.params.istrat) && basis_bytes <= kMaxPointBasisBytes) {
     ev.point_basis.assign(static_cast<std::size_t>(basis_bytes), 0);

@@ -38,12 +38,64 @@ struct CutRecord {
   double variance = 0.0;    // variance of that estimate
 };
 
+// The cut split by groups of points, for a master with a THETA column per group: the points of
+// the table fall into fixed groups of consecutive rows, and each group's share of the estimate
+// gives a cut of its own. A single group is the single cut of ev.cut alone.
+struct CutGroups {
+  int count = 1;
+  std::vector<int> end;          // [0..count] group g holds points end[g-1]+1..end[g]; end[0] = 0
+  std::vector<double> objs;      // [1..count] the group's share of objs
+  std::vector<double> gls;       // [1..count] constant of the group's cut
+  std::vector<double> variance;  // [1..count] the group's share of the variance of objs
+  std::vector<double> gus;       // count rows x n1: gradient of each group's cut
+};
+
 // The additive approximation of the second-stage cost (importance sampling, control variables).
 struct Approximation {
   std::vector<double> deltabar;  // [1..nblocks] expected marginal value of each block
   std::vector<double> gamma;     // marginal value of every outcome, laid out like the probabilities
   std::vector<double> q;         // importance probabilities, same layout
   double z0 = 0.0;               // base-case cost
+};
+
+// What a subproblem solve works with besides its LP: the outcome put into the subproblem, the
+// proposal's right-hand side and what the solve leaves. Each chain has its own, so that chains
+// can be solved side by side.
+struct SolveWork {
+  std::vector<int> index;          // [1..nblocks] current outcome of every block
+  std::vector<double> block_prob;  // [1..nblocks] probability of the current outcome per block
+  std::vector<double> current;     // [1..nentries] current value of every random parameter
+  double scenario_prob = 0.0;      // product of block_prob (solve_row with mode 3)
+  std::vector<double> b_work;      // [1..B nonzeros] coupling values of the outcome
+  std::vector<double> rhs_work;    // [1..m2] right-hand sides of the outcome
+  std::vector<double> coupled;     // [1..m2] C x-hat, then the full right-hand side r
+  std::vector<double> primal;      // [1..n2+m2] last solve: columns, then row activities
+  std::vector<double> duals;       // [1..m2+n2] last solve: row duals, then reduced costs
+  std::vector<double> u;           // [1..n1] C' pi of the last solve
+  double z = 0.0;  // objective of the last solve (sum of infeasibilities if infeasible)
+};
+
+// A warm-start chain: a fixed stretch of a pass's solve order, solved point after point on the
+// chain's own subproblem, so that its warm starts do not depend on which thread runs it or on how
+// many threads there are. Chain 0 solves on the optimizer's subproblem slot, every other chain on
+// a copy it holds.
+struct Chain {
+  lp::HeldProblem held;  // chains 1, 2, ...: the subproblem, its basis, factors and options
+  SolveWork work;
+  std::vector<double> acc_primal;  // [1..n2+m2] the chain's share of the report accumulators
+  std::vector<double> acc_duals;   // [1..m2+n2]
+  int startflag = 0;     // 0 until the chain's first solve, which then starts cold
+  int first = 0;         // positions first..last of ev.order in this pass
+  int last = 0;
+  // How the chain's part of the pass ended: at point stop_point with optimizer status
+  // stop_status (1 infeasible, other nonzero values failures, kBadKind an unknown parameter
+  // kind), or ran through (stop_point 0).
+  int stop_point = 0;
+  int stop_status = 0;
+  int bad_kind = 0;
+  long long solves = 0;  // work of the pass, added to the evaluation's counters afterwards
+  long long pivots = 0;
+  long long reused = 0;
 };
 
 // Largest sample table this build agrees to hold (rows x (blocks + first-stage columns)); the
@@ -64,22 +116,14 @@ struct Evaluation {
 
   int nsamples = 0;   // working sample size N (the universe sets it to its number of points)
 
-  // Drawing and the current outcome.
-  std::vector<int> index;          // [1..nblocks] current outcome of every block
+  // Drawing.
+  std::vector<int> index;          // [1..nblocks] outcome of every block just drawn
   std::vector<double> cumulative;  // [1..largest outcome count + 1]
-  std::vector<double> block_prob;  // [1..nblocks] probability of the current outcome per block
-  std::vector<double> current;     // [1..nentries] current value of every random parameter
   std::vector<double> draw_probs;  // per-outcome probabilities for a mixed draw (importance)
-  double scenario_prob = 0.0;      // product of block_prob (subeval with mode 3)
 
-  // The subproblem as the current outcome and proposal make it.
-  std::vector<double> b_work;      // [1..B nonzeros] coupling values of the outcome
-  std::vector<double> rhs_work;    // [1..m2] right-hand sides of the outcome
-  std::vector<double> coupled;     // [1..m2] C x-hat, then the full right-hand side r
-  std::vector<double> primal;      // [1..n2+m2] last solve: columns, then row activities
-  std::vector<double> duals;       // [1..m2+n2] last solve: row duals, then reduced costs
-  std::vector<double> u;           // [1..n1] C' pi of the last solve
-  double z = 0.0;                  // objective of the last solve (sum of infeasibilities if infeasible)
+  // The warm-start chains of the solve passes; chain 0 also serves every single solve.
+  std::vector<Chain> chains;
+  int nthreads = 1;                // threads a pass may use
 
   // Sample table and per-point results.
   std::vector<int> itab;           // capacity rows x nblocks
@@ -92,6 +136,7 @@ struct Evaluation {
   bool visit_backwards = false;
   std::vector<int> visit_step;     // [1..nblocks] scratch of the serpentine order
   std::vector<char> solved;        // [1..capacity] point already solved in this pass
+  std::vector<signed char> point_status;  // [1..capacity] 0 optimal, 1 infeasible (solved points)
   // Universe passes: the optimal basis (slot states, n2 + m2 per point) each point last had, and
   // whether a pass restarts each point from its own basis. Outcomes far apart cost many pivots
   // from one another's bases, while a point's own basis stays near optimal as the proposals
@@ -103,6 +148,7 @@ struct Evaluation {
   int infeasible_point = 0;        // the point whose infeasibility ended the last pass, or 0
 
   CutRecord cut;
+  CutGroups groups;
 
   // Approximation: working, last and best copies, and the working block statistics.
   Approximation approx;

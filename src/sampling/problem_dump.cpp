@@ -16,9 +16,9 @@ input::MpsNames names_of(const lp::Optimizer& opt) {
 
 }  // namespace
 
-void dump_slot(const Context& ctx, int slot, const std::string& file_name) {
-  input::dump_problem(ctx.optimizer.slot[slot], slot, names_of(ctx.optimizer), ctx.units, file_name,
-                      kDumpUnit);
+void dump_slot(const Context& ctx, const lp::ProblemSlot& slot, int number,
+               const std::string& file_name) {
+  input::dump_problem(slot, number, names_of(ctx.optimizer), ctx.units, file_name, kDumpUnit);
 }
 
 }  // namespace tarvo::sampling

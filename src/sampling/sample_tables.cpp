@@ -7,6 +7,14 @@
 
 namespace tarvo::sampling {
 
+double row_probability(const Context& ctx, const Evaluation& ev, int k) {
+  double p = 1.0;
+  for (int b = 1; b <= ev.nblocks; ++b) {
+    p *= ctx.store.probs[ctx.store.prob_start[b] + table_entry(ev, k, b) - 1];
+  }
+  return p;
+}
+
 double universe_points(const input::OutcomeStore& store) {
   double points = 1.0;
   for (int b = 1; b <= store.count; ++b) points *= store.nsoc[b];

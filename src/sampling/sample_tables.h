@@ -12,6 +12,9 @@ inline int table_entry(const Evaluation& ev, int k, int b) {
   return ev.itab[(k - 1) * ev.nblocks + b];
 }
 
+// The scenario probability of row k, multiplied in block order from 1.0 as a solve forms it.
+double row_probability(const Context& ctx, const Evaluation& ev, int k);
+
 // Number of outcome combinations (a double: it overflows integers).
 double universe_points(const input::OutcomeStore& store);
 

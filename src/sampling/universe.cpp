@@ -1,4 +1,5 @@
 #include "sampling/cut.h"
+#include "sampling/cut_groups.h"
 #include "sampling/sample_tables.h"
 #include "sampling/solve_pass.h"
 #include "sampling/strategies.h"
@@ -13,15 +14,6 @@ namespace {
 // (counted in pivots).
 constexpr double kPointBasisPivots = 10.0;
 constexpr double kRestartCost = 5.0;
-
-// The scenario probability of row k, multiplied in block order from 1.0 as the solve forms it.
-double row_probability(const Context& ctx, const Evaluation& ev, int k) {
-  double p = 1.0;
-  for (int b = 1; b <= ev.nblocks; ++b) {
-    p *= ctx.store.probs[ctx.store.prob_start[b] + table_entry(ev, k, b) - 1];
-  }
-  return p;
-}
 
 // Whether the next pass restarts each point from its own basis, after a pass that took `average`
 // pivots per solve.
@@ -38,13 +30,17 @@ void choose_restart(Evaluation& ev, double average) {
 
 void estimate_universe(const Context& ctx, Evaluation& ev) {
   clear_cut(ev);
+  const bool by_groups = grouped(ev, ev.nsamples);
+  if (by_groups) clear_groups(ev);
   for (int k = 1; k <= ev.nsamples; ++k) {
     const double p = row_probability(ctx, ev, k);
     ev.cut.objs += p * ev.costs[k];
     const double* u = point_u(ev, k);
     for (int j = 1; j <= ev.n1; ++j) ev.cut.gus[j] -= p * u[j];
+    if (by_groups) add_to_group(ev, k, p, ev.costs[k], u);
   }
   close_cut(ctx, ev);
+  if (by_groups) close_groups(ctx, ev);
 }
 
 int evaluniv(const Context& ctx, Evaluation& ev, int& startflag) {

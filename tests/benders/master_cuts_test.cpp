@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "benders/master_cuts.h"
+#include "input/decompose.h"
 
 namespace tarvo::benders {
 namespace {
@@ -12,11 +13,12 @@ namespace {
 constexpr int kFirstStageRows = 2;
 
 // A master of two first-stage columns and THETA, two first-stage rows and `nzrows` cut rows.
-// Column 2 has no stored position in the cut rows (it has no coupling entry).
-lp::ProblemSlot small_master(int nzrows) {
+// Column 2 has no stored position in the cut rows (it has no coupling entry). `room` adds
+// capacity for the columns and the row of cut groups.
+lp::ProblemSlot small_master(int nzrows, int room = 0) {
   lp::ProblemSlot s;
   const int m = kFirstStageRows + nzrows;
-  lp::allocate_slot(s, m, 3, 3 * m);
+  lp::allocate_slot(s, m + room, 3 + room, 3 * m + 2 * room);
   s.m = m;
   s.n = 3;
   s.nb = s.n + s.m;
@@ -92,6 +94,74 @@ TEST(MasterCuts, CoefficientsNeedAStoredPositionUnlessZero) {
   EXPECT_TRUE(store_cut_row(master, zero_on_column_2.data(), -2.0e20, row));
   EXPECT_EQ(master.bu[master.n + row], lp::kInfiniteBound);
   EXPECT_EQ(master.bl[master.n + row], -lp::kInfiniteBound);
+}
+
+// A master with three cut groups: cuts take free rows first, then the rows slack the longest
+// (ties: the slackest), but never a group's last cut unless that group gets a new one; each group
+// column holds its THETASUM entry and a 1 in the rows of its cuts, and THETA has coefficient 0 in
+// a group cut and 1 in a cut on THETA itself. With every row tight nothing is stored.
+TEST(MasterCuts, GroupCutsShareTheRows) {
+  const int nzrows = 4, groups = 3, theta = 3;
+  lp::ProblemSlot master = small_master(nzrows, groups + 1);
+  input::Decomposition dec;
+  dec.n1 = 2;
+  dec.nzrows = nzrows;
+  Units units;
+  ASSERT_EQ(input::add_cut_groups(master, dec, groups, units, {}), input::InputStatus::ok);
+  const int link = master.m;
+  CutRows rows;
+  allocate_cut_rows(rows, kFirstStageRows, nzrows);
+  allocate_cut_pool(rows, master, theta, groups);
+  RunParams params;
+  int iterations = 0;
+  const std::vector<double> gradient = {0.0, -1.5, 0.0};
+  const auto cut = [&](int group, double gls) { return PoolCut{group, gradient.data(), 1.0, gls, 0.25}; };
+  const auto store = [&](std::vector<PoolCut> cuts) {
+    return add_pool_cuts(master, rows, cuts.data(), static_cast<int>(cuts.size()), iterations, units, params, 0);
+  };
+  const auto row_of = [](int r) { return kFirstStageRows + r; };
+  ASSERT_EQ(store({cut(1, 10.0), cut(2, 20.0), cut(3, 30.0)}), CutResult::stored);
+  ASSERT_EQ(store({cut(0, 40.0)}), CutResult::stored);
+  EXPECT_EQ(iterations, 2);
+  for (int r = 1; r <= 3; ++r) {
+    EXPECT_EQ(coefficient(master, 1, row_of(r)), -1.5);
+    EXPECT_EQ(coefficient(master, theta, row_of(r)), 0.0);
+    EXPECT_EQ(master.bu[master.n + row_of(r)], -10.0 * r);
+  }
+  EXPECT_EQ(coefficient(master, theta, row_of(4)), 1.0);
+  EXPECT_EQ(coefficient(master, theta, link), 1.0);
+
+  // Slacks: rows 1, 2 and 4 slack (row 1 the most), row 3 tight. Group 3's new cut may not take
+  // the last cut of group 1 or 2, so it takes row 4.
+  const double slack[] = {0.0, 5.0, 1.0, 0.0, 2.0};
+  for (int r = 1; r <= nzrows; ++r) {
+    master.xn[master.n + row_of(r)] = master.bu[master.n + row_of(r)] - slack[r];
+  }
+  ASSERT_EQ(store({cut(3, 50.0)}), CutResult::stored);
+  EXPECT_EQ(rows.pool.holder[4], 3);
+  EXPECT_EQ(coefficient(master, theta, row_of(4)), 0.0);
+  // New cuts for groups 1 and 2 take rows 1 and 2, slack since iteration 1.
+  ASSERT_EQ(store({cut(2, 60.0), cut(1, 70.0)}), CutResult::stored);
+  EXPECT_EQ(rows.pool.holder[1], 2);
+  EXPECT_EQ(rows.pool.holder[2], 1);
+  EXPECT_EQ(master.bu[master.n + row_of(1)], -60.0);
+  const int group_of_row[] = {0, 2, 1, 3, 3};
+  for (int g = 1; g <= groups; ++g) {
+    EXPECT_EQ(coefficient(master, theta + g, link), -1.0);
+    int entries = 1;
+    for (int r = 1; r <= nzrows; ++r) {
+      const bool held = group_of_row[r] == g;
+      EXPECT_EQ(coefficient(master, theta + g, row_of(r)), held ? 1.0 : 0.0) << g << " " << r;
+      entries += held;
+    }
+    EXPECT_EQ(master.ka[theta + g + 1] - master.ka[theta + g], entries);
+  }
+  EXPECT_EQ(master.ka[master.n + 1], master.ne + 1);
+
+  for (int r = 1; r <= nzrows; ++r) master.xn[master.n + row_of(r)] = master.bu[master.n + row_of(r)];
+  EXPECT_EQ(store({cut(3, 80.0)}), CutResult::rows_exhausted);
+  EXPECT_EQ(iterations, 999999);
+  EXPECT_EQ(master.bu[master.n + row_of(4)], -50.0);
 }
 
 }  // namespace

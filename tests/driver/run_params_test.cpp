@@ -21,7 +21,8 @@ TEST(RunParams, ModelInpIsReadAndEchoed) {
       " istrat    =  3\n nsamples  =  100\n nzrows    =  100\n maxit     =  1000\n"
       " iwrite    =  0\n ibug      =  0\n iscratch  =  17\n iresamp   =  1\n igms      =  0\n"
       " ireg      =  0\n rho       =   1000.\n tolben    =   1.E-07\n tolw      =   1.E-09\n"
-      " iappr     =  1\n maxtime   =   345600.\n iseed     =  12933428\n";
+      " iappr     =  1\n maxtime   =   345600.\n iseed     =  12933428\n ncuts     =  1\n"
+      " nthreads  =  1\n";
   std::string thousand;  // the records after the first thousand are not read
   for (int i = 1; i < 1000; ++i) thousand += "1 iwrite\n";
   thousand += "8 istrat\n9 istrat\n";
@@ -46,6 +47,7 @@ TEST(RunParams, ModelInpIsReadAndEchoed) {
       {"half record at end of file", "11 iseed\n8\n", " iseed     =  11\n istrat    =  3\n"},
       {"unknown keyword ignored", "3 foo\n7 maxit\n", " maxit     =  7\n"},
       {"huge real for a real parameter", "1e30 maxtime\n", " maxtime   =   1.E+30\n"},
+      {"cut groups and threads", "0 NCUTS\n2 nthreads\n", " ncuts     =  0\n nthreads  =  2\n"},
   };
   for (const InpCase& c : cases) {
     SCOPED_TRACE(c.name);

@@ -124,5 +124,48 @@ TEST(Decompose, CapacityMessagesInTheirOrder) {
   }
 }
 
+// Cut groups add a THETA column per group after THETA and the row THETASUM (THETA minus the
+// group columns, = 0) after the cut rows; the rows' data move along with the new columns. A
+// master too small for them gets the capacity message of the split.
+TEST(Decompose, CutGroupsFollowThetaWithTheirSumRow) {
+  Split split;
+  split.run("FIRST1", 2);
+  Model& m = split.model;
+  ASSERT_EQ(add_cut_groups(m.master, m.dec, 2, m.units, {}), InputStatus::ok);
+  EXPECT_EQ(m.master.n, 5);
+  EXPECT_EQ(m.master.m, 6);
+  EXPECT_EQ(m.master.ne, 12);
+  EXPECT_EQ(std::vector<int>(m.master.ka.begin() + 3, m.master.ka.begin() + 7), (std::vector<int>{7, 11, 12, 13}));
+  EXPECT_EQ(std::vector<int>(m.master.ha.begin() + 7, m.master.ha.begin() + 13), (std::vector<int>{1, 4, 5, 6, 6, 6}));
+  EXPECT_EQ(std::vector<double>(m.master.a.begin() + 10, m.master.a.begin() + 13), (std::vector<double>{1.0, -1.0, -1.0}));
+  EXPECT_EQ(m.master.names[5], lp::make_name("THG00002"));
+  EXPECT_EQ(m.master.bl[5], -1.0e9);
+  EXPECT_EQ(m.master.names[5 + 5], lp::make_name("CUT01002"));
+  EXPECT_EQ(m.master.names[5 + 6], lp::make_name("THETASUM"));
+  EXPECT_EQ(lp::row_upper(m.master, 2), 10.0);
+  EXPECT_EQ(lp::row_lower(m.master, 6), 0.0);
+  EXPECT_EQ(lp::row_upper(m.master, 6), 0.0);
+  EXPECT_EQ(m.dec.groups, 2);
+
+  struct Case { int rows, columns, elements; const char* message; };
+  const Case cases[] = {
+      {5, 10, 100, "ERROR: need  6 rows for master"},
+      {10, 4, 100, "ERROR: need  5 columns for master"},
+      {10, 10, 13, "ERROR: need  14 nonzeros for master"},
+  };
+  for (const Case& c : cases) {
+    Split small;
+    small.run("FIRST1", 2);
+    Model& s = small.model;
+    s.master.mmax = c.rows;
+    s.master.nmax = c.columns;
+    s.master.nemax = c.elements;
+    open_unit(s.units, 17, small.dir.file("log2"), OpenStatus::unknown);
+    EXPECT_EQ(add_cut_groups(s.master, s.dec, 2, s.units, {17, 17}), InputStatus::storage);
+    close_unit(s.units, 17);
+    EXPECT_EQ(read_file(small.dir.file("log2")), std::string(" ") + c.message + "\n");
+  }
+}
+
 }  // namespace
 }  // namespace tarvo::input::testing

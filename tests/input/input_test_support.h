@@ -27,8 +27,8 @@ inline std::string example_file(const std::string& problem, const std::string& f
 
 inline const std::vector<std::string>& example_problems() {
   static const std::vector<std::string> problems = {
-      "chem", "env-aggr", "fxm2-6", "lands-1e6", "lands3", "lands3-blocks", "pltexpa2-6",
-      "stormg2-1000", "stormg2-8"};
+      "20term", "chem", "env-aggr", "fxm2-6", "lands-1e6", "lands3", "lands3-blocks",
+      "pltexpa2-6", "stormg2-1000", "stormg2-8"};
   return problems;
 }
 

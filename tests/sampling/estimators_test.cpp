@@ -7,6 +7,7 @@
 
 #include "harness.h"
 #include "sampling/cut.h"
+#include "sampling/cut_groups.h"
 #include "sampling/importance.h"
 #include "sampling/sample_tables.h"
 #include "sampling/strategies.h"
@@ -156,6 +157,53 @@ TEST(Estimators, CrudeMonteCarloMeanAndVarianceOfTheMean) {
   estimate_mean(s.h.context(), s.ev);
   EXPECT_DOUBLE_EQ(s.ev.cut.objs, 2.5);
   EXPECT_DOUBLE_EQ(s.ev.cut.variance, (2.25 + 0.25 + 0.25 + 2.25) / 3.0 / 4.0);
+}
+
+// Group cuts of the universe and of a presample: each group's share is the sum over its own
+// points in table order, the shares add up to the single cut, and each group cut is closed at
+// the proposal; the presample's variance splits among the groups as well.
+TEST(Estimators, GroupCutsSplitTheCut) {
+  struct Case { bool universe; int groups; };
+  for (const Case c : {Case{true, 5}, Case{true, 24}, Case{false, 3}, Case{false, 40}}) {
+    SCOPED_TRACE(std::to_string(c.universe) + " " + std::to_string(c.groups));
+    Synthetic s;
+    s.cost_of_gamma = [](double g) { return g * g - 3.0 * g; };
+    s.h.params.istrat = c.universe ? 4 : 8;
+    ASSERT_EQ(allocate_evaluation(s.ev, s.h.context()), kOk);
+    if (c.universe) {
+      ASSERT_EQ(univtab(s.h.context(), s.ev), kOk);
+    } else {
+      seed_generator(s.ev, 7);
+      sampcmc(s.h.context(), s.ev);
+    }
+    const int rows = s.ev.nsamples;
+    allocate_cut_groups(s.ev, c.groups, rows);
+    s.fill_points(rows, 0);
+    if (c.universe) {
+      estimate_universe(s.h.context(), s.ev);
+    } else {
+      estimate_mean(s.h.context(), s.ev);
+    }
+    const CutGroups& g = s.ev.groups;
+    double objs = 0.0, variance = 0.0, gus[3] = {0.0, 0.0, 0.0};
+    for (int i = 1; i <= c.groups; ++i) {
+      EXPECT_GE(g.end[i] - g.end[i - 1], rows / c.groups);
+      double own = 0.0;
+      for (int k = g.end[i - 1] + 1; k <= g.end[i]; ++k) {
+        own += (c.universe ? row_probability(s.h.context(), s.ev, k) : 1.0 / rows) * s.ev.costs[k];
+      }
+      EXPECT_NEAR(g.objs[i], own, 1e-12 * std::fabs(own) + 1e-12);
+      const double* gu = group_gus(s.ev, i);
+      EXPECT_NEAR(g.gls[i], g.objs[i] + gu[1] * 3.0 - gu[2], 1e-9);
+      objs += g.objs[i];
+      variance += g.variance[i];
+      for (int j = 1; j <= 2; ++j) gus[j] += gu[j];
+    }
+    EXPECT_EQ(g.end[c.groups], rows);
+    EXPECT_NEAR(objs, s.ev.cut.objs, 1e-9);
+    for (int j = 1; j <= 2; ++j) EXPECT_NEAR(gus[j], s.ev.cut.gus[j], 1e-9);
+    EXPECT_NEAR(variance, s.ev.cut.variance, 1e-9 * s.ev.cut.variance);
+  }
 }
 
 }  // namespace
