@@ -70,6 +70,8 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
     s.work_row[i] = s.m;
     s.slot_row[s.m++] = i;
   }
+  for (auto* v : {&s.row_index, &s.col_index, &s.source_ha, &s.objective_col, &s.objective_at}) v->resize(slot.ne);
+  for (auto* v : {&s.value, &s.row_value, &s.source_a}) v->resize(slot.ne);
   // Entries repeated within a column add up (the factorization takes each row once).
   int* last = s.candidate.data();  // position of each row's entry in the current column
   std::fill(last, last + s.m, -1);

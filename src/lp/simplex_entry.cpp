@@ -246,11 +246,11 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.slot_row.assign(mmax, 0);
   s.work_row.assign(mmax + 1, -1);
   s.col_start.assign(nmax + 1, 0);
-  s.row_index.assign(nemax, 0);
-  s.value.assign(nemax, 0.0);
   s.row_start.assign(mmax + 1, 0);
-  s.col_index.assign(nemax, 0);
-  s.row_value.assign(nemax, 0.0);
+  // Arrays of matrix entries are only reserved: loading a matrix sizes them to its entries, so a
+  // run touches (and the system maps) the memory its problems use, not the whole capacity.
+  for (auto* v : {&s.row_index, &s.col_index, &s.source_ha, &s.objective_col, &s.objective_at}) v->reserve(nemax);
+  for (auto* v : {&s.value, &s.row_value, &s.source_a}) v->reserve(nemax);
   for (auto* v : {&s.cost, &s.base_cost, &s.lower, &s.upper, &s.base_lower, &s.base_upper, &s.scale,
                   &s.inverse_scale, &s.x, &s.d,
                   &s.primal_weight, &s.primal_tol, &s.dual_tol, &s.pivot_row, &s.candidate_ratio, &s.hessian_diag,
@@ -265,8 +265,6 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.implied_row.assign(mmax, 0.0);
   s.col_floor_work.assign(nmax, 0.0);
   s.source_ka.assign(nmax + 1, 0);
-  s.source_ha.assign(nemax, 0);
-  s.source_a.assign(nemax, 0.0);
   s.head.assign(mmax, 0);
   s.saved_head.assign(mmax, 0);
   s.position.assign(nt, -1);
@@ -280,8 +278,6 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.rejected.assign(nt, -1);
   s.flipped.assign(nt, 0);
   s.row_mark.assign(mmax, 0);
-  s.objective_col.assign(nemax, 0);
-  s.objective_at.assign(nemax, 0);
   s.superbasic.assign(nt, 0);
   s.regobj_x.assign(nmax + 1, 0.0);
   s.regobj_g.assign(nmax + 1, 0.0);
