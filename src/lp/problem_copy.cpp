@@ -70,7 +70,8 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
     s.work_row[i] = s.m;
     s.slot_row[s.m++] = i;
   }
-  for (auto* v : {&s.row_index, &s.col_index, &s.source_ha, &s.objective_col, &s.objective_at}) v->resize(slot.ne);
+  for (auto* v : {&s.row_index, &s.col_index, &s.source_ha, &s.objective_col, &s.objective_at})
+    v->resize(slot.ne);
   for (auto* v : {&s.value, &s.row_value, &s.source_a}) v->resize(slot.ne);
   // Entries repeated within a column add up (the factorization takes each row once).
   int* last = s.candidate.data();  // position of each row's entry in the current column
@@ -121,9 +122,11 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
   s.dual_weights_valid = false;
 }
 
-bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings) {
+namespace {
+
+// The costs of the objective row's entries, summed per column in entry order.
+bool load_costs_in_full(SimplexState& s, const ProblemSlot& slot) {
   const int nt = s.n + s.m;
-  s.sense = settings.sense;
   // The new costs go to `cost` first, so that they can be compared with the previous ones.
   std::fill(s.cost.begin(), s.cost.begin() + nt, 0.0);
   for (int t = 0; t < s.objective_count; ++t) {
@@ -132,6 +135,31 @@ bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const Simpl
   }
   const bool costs_changed = !std::equal(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
   std::copy(s.cost.begin(), s.cost.begin() + nt, s.base_cost.begin());
+  return costs_changed;
+}
+
+// The same when the working matrix and its objective entries are those of the last load and the
+// costs carry no shifts: every other cost is zero already, so only the listed columns are visited.
+bool load_listed_costs(SimplexState& s, const ProblemSlot& slot) {
+  bool costs_changed = false;
+  for (int t = 0; t < s.objective_count;) {
+    const int j = s.objective_col[t];
+    double c = 0.0;
+    for (; t < s.objective_count && s.objective_col[t] == j; ++t)
+      c += s.sense * slot.a[s.objective_at[t]] * s.scale[j];
+    costs_changed |= c != s.base_cost[j];
+    s.cost[j] = s.base_cost[j] = c;
+  }
+  return costs_changed;
+}
+
+}  // namespace
+
+bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings,
+                           bool matrix_kept) {
+  s.sense = settings.sense;
+  const bool costs_changed =
+      matrix_kept && !s.costs_shifted ? load_listed_costs(s, slot) : load_costs_in_full(s, slot);
   const auto load_bounds = [&s, &slot](int j, int k) {
     s.lower[j] = s.base_lower[j] = working_lower(slot.bl[k], s.inverse_scale[j]);
     s.upper[j] = s.base_upper[j] = working_upper(slot.bu[k], s.inverse_scale[j]);

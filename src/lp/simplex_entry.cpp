@@ -218,7 +218,7 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   } else {
     s.counters.reused_scales = true;
   }
-  const bool costs_changed = load_costs_and_bounds(s, slot, settings);
+  const bool costs_changed = load_costs_and_bounds(s, slot, settings, matrix_kept);
   s.counters.reused_factors = prepare_basis(s, slot, settings, mode, matrix_kept);
   if (!s.counters.reused_factors) {
     s.factors_valid = false;
@@ -249,7 +249,8 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.row_start.assign(mmax + 1, 0);
   // Arrays of matrix entries are only reserved: loading a matrix sizes them to its entries, so a
   // run touches (and the system maps) the memory its problems use, not the whole capacity.
-  for (auto* v : {&s.row_index, &s.col_index, &s.source_ha, &s.objective_col, &s.objective_at}) v->reserve(nemax);
+  for (auto* v : {&s.row_index, &s.col_index, &s.source_ha, &s.objective_col, &s.objective_at})
+    v->reserve(nemax);
   for (auto* v : {&s.value, &s.row_value, &s.source_a}) v->reserve(nemax);
   for (auto* v : {&s.cost, &s.base_cost, &s.lower, &s.upper, &s.base_lower, &s.base_upper, &s.scale,
                   &s.inverse_scale, &s.x, &s.d,

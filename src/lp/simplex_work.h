@@ -55,8 +55,10 @@ SimplexSettings settings_from_options(const Options& options);
 bool slot_matrix_unchanged(const SimplexState& s, const ProblemSlot& slot, int scale_option);
 void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings,
                          bool keep_scales);
-// Returns true when a working cost differs from the previous load's.
-bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings);
+// Returns true when a working cost differs from the previous load's. `matrix_kept`: the working
+// matrix was not reloaded since the last call.
+bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings,
+                           bool matrix_kept);
 void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_duals);
 
 // Scale factors of the working matrix (scaling.cpp).
