@@ -130,6 +130,7 @@ TrueUnitCheck tighten_unscaled_violations(SimplexState& s, const SimplexSettings
   }
   for (int j = 0; j < s.n + s.m; ++j) {
     const double wrong = wrong_sign_part(s.state[j], s.d[j]);
+    if (!(wrong > 0.0)) continue;  // of the right sign: nothing to tighten, and no worst
     if (!(wrong > std::min(otol * s.scale[j], dual_level)) || s.lower[j] == s.upper[j]) {
       if (wrong > check.worst_dual && s.lower[j] != s.upper[j]) check.worst_dual = wrong;
       continue;
