@@ -29,15 +29,26 @@ input::MessageUnits message_units(const RunState& run) {
 
 int capped(long long value) { return static_cast<int>(std::clamp(value, 1LL, kLargestCapacity)); }
 
-// Room for the core in slot 3 and for what the split makes of it: the master's cut rows, THETA,
-// and a cut-row placeholder in every column.
-lp::SlotCapacity capacity_for(const std::string& core_file, int nzrows) {
+// The master's group columns when their number is known before the model is read: `ncuts` groups,
+// or one per point of a presample. A cut per outcome of the universe is sized by the core alone.
+long long known_group_columns(const RunParams& params) {
+  if (params.ncuts > 1) return params.ncuts;
+  const bool presampling = params.istrat == 8 || params.istrat == 9;
+  if (params.ncuts == 0 && presampling) return std::max(params.nsamples, 0);
+  return 0;
+}
+
+// Room for the core in slot 3 and for what the split makes of it: the master's cut rows, THETA
+// and its group columns with the row that sums them, and a cut-row placeholder in every column.
+lp::SlotCapacity capacity_for(const std::string& core_file, const RunParams& params) {
   const input::MpsSizes core = input::count_mps_sizes(core_file);
-  const long long cuts = std::max(nzrows, 0);
+  const long long cuts = std::max(params.nzrows, 0);
+  const long long groups = known_group_columns(params);
   lp::SlotCapacity capacity;
-  capacity.rows = capped(core.rows + cuts + 1);
-  capacity.columns = capped(core.columns + 1);
-  capacity.elements = capped(core.entries + (core.columns + 1) * (cuts + 1) + 1);
+  capacity.rows = capped(core.rows + cuts + 2);
+  capacity.columns = capped(core.columns + 1 + groups);
+  capacity.elements =
+      capped(core.entries + (core.columns + 1) * (cuts + 1) + 2 * groups + cuts + 2);
   capacity.iteration_limit =
       capped(kIterationsPerVariable * (capacity.rows + capacity.columns) + kSpareIterations);
   return capacity;
@@ -98,9 +109,9 @@ void echo_store_sizes(RunState& run) {
 bool start_optimizer(RunState& run) {
   const RunRequest& r = run.request;
   if (r.specs_file.empty()) {
-    lp::optimizer_init_sized(run.optimizer, run.units, run.log_unit, run.params.iwrite,
-                             capacity_for(r.core, run.params.nzrows));
-    return true;
+    return lp::optimizer_init_sized(run.optimizer, run.units, run.log_unit, kErrorUnit,
+                                    run.params.iwrite,
+                                    capacity_for(r.core, run.params)) == 0;
   }
   return lp::optimizer_init(run.optimizer, run.units, run.log_unit, kErrorUnit,
                             run.params.iwrite, r.specs_file) == 0;

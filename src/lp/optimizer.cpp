@@ -13,6 +13,16 @@ namespace {
 
 constexpr int kWorkspacePerElement = 2;
 
+// What the three slots may take in all. Capacities beyond it would zero-fill memory for minutes
+// or be killed by the system, so they are refused before anything is allocated; the limit also
+// keeps the workspace size within an int.
+constexpr double kSlotMemoryLimitBytes = 16.0 * 1024 * 1024 * 1024;
+// Bytes a slot and its simplex state hold per element and per row or column (the matrix in
+// columns and in rows with its copy, the factors' room; the vectors over rows and columns).
+constexpr double kBytesPerElement = 64.0;
+constexpr double kBytesPerRowOrColumn = 256.0;
+constexpr int kSlotCount = kCoreSlot - kMasterSlot + 1;
+
 bool valid_slot(int slot) { return slot >= kMasterSlot && slot <= kCoreSlot; }
 
 // Without debugging the print file holds only the options echo: the optimizer writes nothing
@@ -29,6 +39,25 @@ void write_sizes(const Options& options, Units& units, int out_unit, std::string
   write_free(units, out_unit, "columss: ", options.ival[kColumnLimit]);
   write_free(units, out_unit, "elements:", options.ival[kElementsLimit]);
   write_free(units, out_unit);
+}
+
+double slot_memory_bytes(const Options& o) {
+  const double rows_and_columns =
+      static_cast<double>(o.ival[kRowLimit]) + static_cast<double>(o.ival[kColumnLimit]);
+  return kSlotCount * (kBytesPerElement * o.ival[kElementsLimit] +
+                       kBytesPerRowOrColumn * rows_and_columns);
+}
+
+// Refuses capacities whose slots would not fit the memory limit, naming the three sizes.
+bool capacities_fit_memory(const Options& o, Units& units, int err_unit) {
+  const double bytes = slot_memory_bytes(o);
+  if (bytes <= kSlotMemoryLimitBytes) return true;
+  constexpr double kMegabyte = 1024.0 * 1024.0;
+  write_free(units, err_unit, "ERROR: slots of", o.ival[kRowLimit], " rows,",
+             o.ival[kColumnLimit], " columns and", o.ival[kElementsLimit], " elements need about",
+             static_cast<long long>(bytes / kMegabyte), " MB; the limit is",
+             static_cast<long long>(kSlotMemoryLimitBytes / kMegabyte), " MB");
+  return false;
 }
 
 // Every slot and its simplex state are sized here once for the whole run.
@@ -86,12 +115,13 @@ int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int
   // A file without ROWS, COLUMNS or ELEMENTS still sizes the slots: by the defaults of a solve.
   complete_capacities(opt.options);
   write_sizes(opt.options, units, out_unit, "Simplex specs file:");
+  if (!capacities_fit_memory(opt.options, units, err_unit)) return kInitFailed;
   allocate_slots(opt);
   return result;
 }
 
-void optimizer_init_sized(Optimizer& opt, Units& units, int out_unit, int debug,
-                          const SlotCapacity& capacity) {
+int optimizer_init_sized(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug,
+                         const SlotCapacity& capacity) {
   if (opt.active == 0) opt.active = kMasterSlot;
   const int print_unit = debug != 0 ? kPrintUnit : 0;
   if (print_unit != 0) open_unit(units, print_unit, "MODEL.MO", OpenStatus::unknown);
@@ -102,7 +132,9 @@ void optimizer_init_sized(Optimizer& opt, Units& units, int out_unit, int debug,
   opt.options.ival[kIterationLimit] = capacity.iteration_limit;
   complete_capacities(opt.options);
   write_sizes(opt.options, units, out_unit, "Simplex slots sized from the model:");
+  if (!capacities_fit_memory(opt.options, units, err_unit)) return kInitFailed;
   allocate_slots(opt);
+  return 0;
 }
 
 void select_problem(Optimizer& opt, int slot) {

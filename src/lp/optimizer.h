@@ -41,7 +41,7 @@ struct HeldProblem {
 };
 
 // Reads the options file (SIMPLEX.SPC unless named) and sizes the slots from it. Returns 0 on
-// success, 13 on failure.
+// success, 13 on failure (a faulty file, or capacities beyond the slots' memory limit).
 int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug,
                    const std::string& specs_file = "SIMPLEX.SPC");
 
@@ -54,9 +54,10 @@ struct SlotCapacity {
 };
 
 // Initializes without an options file: every option at its default but the capacities and the
-// iteration limit. The print file MODEL.MO is opened only when `debug` is not 0.
-void optimizer_init_sized(Optimizer& opt, Units& units, int out_unit, int debug,
-                          const SlotCapacity& capacity);
+// iteration limit. The print file MODEL.MO is opened only when `debug` is not 0. Returns 0, or 13
+// when the capacities need more memory than the slots may take.
+int optimizer_init_sized(Optimizer& opt, Units& units, int out_unit, int err_unit, int debug,
+                         const SlotCapacity& capacity);
 void select_problem(Optimizer& opt, int slot);
 ProblemSlot& active_slot(Optimizer& opt);
 void set_objective_mode(Optimizer& opt, Units& units, int quadratic, int out_unit);

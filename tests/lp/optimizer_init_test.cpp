@@ -29,6 +29,7 @@ struct InitCase {
   int rows, columns, elements;  // the printed sizes (0: none printed)
   int print_file;               // PRINT FILE afterwards
   Lines print_lines = {};       // each must appear in MODEL.MO
+  bool allocated = true;        // false: refused before any slot is filled
 };
 
 const InitCase kCases[] = {
@@ -41,6 +42,11 @@ const InitCase kCases[] = {
     {"faulty file", "BEGIN\nROWS 40\nBOGUS\nEND\n", 0, kInitFailed,
      {" ERROR: while reading SPECS file"}, 40, 120, 600, kPrintUnit},
     {"no capacities given", "BEGIN\nEND\n", 0, 0, {}, 100, 300, 1500, 0},
+    // Columns and elements follow from the rows; the slots would need half a terabyte.
+    {"capacities beyond memory", "BEGIN\nROWS 99999999\nEND\n", 0, kInitFailed,
+     {" ERROR: slots of 99999999 rows, 299999997 columns and 1073741823 elements need about "
+      "489576 MB; the limit is 16384 MB"},
+     99999999, 299999997, 1073741823, 0, {}, false},
 };
 
 Lines size_lines(int rows, int columns, int elements) {
@@ -70,6 +76,10 @@ TEST(OptimizerInit, ReadsTheOptionsFileAndSizesEverySlot) {
       continue;
     }
     EXPECT_EQ(testing::read_lines("MODEL.SCR"), size_lines(c.rows, c.columns, c.elements));
+    if (!c.allocated) {
+      EXPECT_TRUE(opt.slot[kMasterSlot].a.empty());
+      continue;
+    }
     const Lines print = testing::read_lines("MODEL.MO");
     for (const std::string& line : c.print_lines) {
       EXPECT_TRUE(testing::has_line(print, line)) << line;
