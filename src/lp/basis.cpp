@@ -37,6 +37,17 @@ namespace {
 // Nonbasic variable j takes the state slot entry k gives it, and the value that goes with it.
 void take_nonbasic_state(SimplexState& s, const ProblemSlot& slot, int j, int k) {
   const int hs = slot.hs[k];
+  // The common case first, as place_nonbasic settles it: at a finite bound of the state asked for.
+  if (hs == kAtLower && std::isfinite(s.lower[j])) {
+    s.state[j] = kNonbasicLower;
+    s.x[j] = s.lower[j];
+    return;
+  }
+  if (hs == kAtUpper && std::isfinite(s.upper[j])) {
+    s.state[j] = kNonbasicUpper;
+    s.x[j] = s.upper[j];
+    return;
+  }
   if (hs == kSuperbasic) {
     s.state[j] = kSuperbasicVar;
     s.x[j] = slot.xn[k] * s.inverse_scale[j];
