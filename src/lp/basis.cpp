@@ -37,17 +37,6 @@ namespace {
 // Nonbasic variable j takes the state slot entry k gives it, and the value that goes with it.
 void take_nonbasic_state(SimplexState& s, const ProblemSlot& slot, int j, int k) {
   const int hs = slot.hs[k];
-  // The common case first, as place_nonbasic settles it: at a finite bound of the state asked for.
-  if (hs == kAtLower && std::isfinite(s.lower[j])) {
-    s.state[j] = kNonbasicLower;
-    s.x[j] = s.lower[j];
-    return;
-  }
-  if (hs == kAtUpper && std::isfinite(s.upper[j])) {
-    s.state[j] = kNonbasicUpper;
-    s.x[j] = s.upper[j];
-    return;
-  }
   if (hs == kSuperbasic) {
     s.state[j] = kSuperbasicVar;
     s.x[j] = slot.xn[k] * s.inverse_scale[j];
@@ -89,17 +78,32 @@ void basis_from_slot(SimplexState& s, const ProblemSlot& slot) {
 // states and values are taken, in the same pass that compares. Returns false, with the states
 // partly taken, at the first difference.
 bool keep_basis_from_slot(SimplexState& s, const ProblemSlot& slot) {
-  for (int j = 0; j < s.n; ++j) {
-    const int hs = slot.hs[j + 1];
-    if ((hs == kBasic) != (s.state[j] == kBasicVar)) return false;
-    if (hs != kBasic) take_nonbasic_state(s, slot, j, j + 1);
-  }
-  for (int i = 0; i < s.m; ++i) {
-    const int j = s.n + i;
-    const int k = slot.n + s.slot_row[i];
-    const int hs = slot.hs[k];
-    if ((hs == kBasic) != (s.state[j] == kBasicVar)) return false;
-    if (hs != kBasic) take_nonbasic_state(s, slot, j, k);
+  // Locals throughout: a store to a state (a char) could otherwise alias every member, which
+  // would then be read again for each variable.
+  const int n = s.n;
+  const int nt = s.n + s.m;
+  const int slot_n = slot.n;
+  const int* slot_hs = slot.hs.data();
+  const int* slot_row = s.slot_row.data();
+  const double* lower = s.lower.data();
+  const double* upper = s.upper.data();
+  signed char* state = s.state.data();
+  double* x = s.x.data();
+  for (int j = 0; j < nt; ++j) {
+    const int k = j < n ? j + 1 : slot_n + slot_row[j - n];
+    const int hs = slot_hs[k];
+    if ((hs == kBasic) != (state[j] == kBasicVar)) return false;
+    if (hs == kBasic) continue;
+    // At a finite bound of the state it had, as place_nonbasic would settle it.
+    if (hs == kAtLower && std::isfinite(lower[j])) {
+      state[j] = kNonbasicLower;
+      x[j] = lower[j];
+    } else if (hs == kAtUpper && std::isfinite(upper[j])) {
+      state[j] = kNonbasicUpper;
+      x[j] = upper[j];
+    } else {
+      take_nonbasic_state(s, slot, j, k);
+    }
   }
   return true;
 }

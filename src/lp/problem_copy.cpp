@@ -178,27 +178,44 @@ void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_dua
   static_assert(kBasicVar == 0 && kNonbasicLower == 1 && kNonbasicUpper == 2 && kNonbasicFree == 3 &&
                 kSuperbasicVar == 4);
   static constexpr int kSlotState[] = {kBasic, kAtLower, kAtUpper, kAtLower, kSuperbasic};
+  // Locals throughout: the stores to hs (ints) could otherwise alias the sizes, which would then
+  // be read again for each variable.
+  const int n = s.n;
+  const int m = s.m;
+  const signed char* state = s.state.data();
+  const double* x = s.x.data();
+  const double* scale = s.scale.data();
+  const double* inverse_scale = s.inverse_scale.data();
+  const double* base_cost = s.base_cost.data();
+  const double* d = s.d.data();
+  const double* y = s.y.data();
+  const int* slot_row = s.slot_row.data();
+  int* hs = slot.hs.data();
+  double* xn = slot.xn.data();
+  double* rc = slot.rc.data();
+  double* pi = slot.pi.data();
+  const int slot_n = slot.n;
   // Scales are powers of 2: a nonbasic variable on its bound reports the bound exactly (one that
   // slipped within its tolerance, where it is).
-  const auto value_of = [&](int j) { return s.state[j] == kNonbasicFree ? 0.0 : s.x[j] * s.scale[j]; };
+  const auto value_of = [&](int j) { return state[j] == kNonbasicFree ? 0.0 : x[j] * scale[j]; };
   double activity = 0.0;  // of the objective row
   int superbasics = 0;
-  for (int j = 0; j < s.n; ++j) {
+  for (int j = 0; j < n; ++j) {
     const int k = j + 1;
     const double value = value_of(j);
-    slot.hs[k] = kSlotState[s.state[j]];
-    slot.xn[k] = value;
-    slot.rc[k] = sense * s.d[j] * s.inverse_scale[j];
-    if (s.base_cost[j] != 0.0) activity += s.sense * s.base_cost[j] * s.inverse_scale[j] * value;
-    superbasics += s.state[j] == kSuperbasicVar;
+    hs[k] = kSlotState[state[j]];
+    xn[k] = value;
+    rc[k] = sense * d[j] * inverse_scale[j];
+    if (base_cost[j] != 0.0) activity += s.sense * base_cost[j] * inverse_scale[j] * value;
+    superbasics += state[j] == kSuperbasicVar;
   }
-  for (int i = 0; i < s.m; ++i) {
-    const int j = s.n + i;
-    const int k = slot.n + s.slot_row[i];
-    slot.hs[k] = kSlotState[s.state[j]];
-    slot.xn[k] = value_of(j);
-    slot.pi[s.slot_row[i]] = sense * s.y[i] * s.inverse_scale[j];
-    superbasics += s.state[j] == kSuperbasicVar;
+  for (int i = 0; i < m; ++i) {
+    const int j = n + i;
+    const int k = slot_n + slot_row[i];
+    hs[k] = kSlotState[state[j]];
+    xn[k] = value_of(j);
+    pi[slot_row[i]] = sense * y[i] * inverse_scale[j];
+    superbasics += state[j] == kSuperbasicVar;
   }
   if (s.objective_row > 0) {
     slot.pi[s.objective_row] = 0.0;
