@@ -2,6 +2,7 @@
 // cost vector, and the way back from its solution to the slot's arrays.
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 #include <limits>
 
@@ -70,9 +71,13 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
     s.work_row[i] = s.m;
     s.slot_row[s.m++] = i;
   }
+  // The arrays of entries only grow, so that a matrix reloaded at its earlier size (a master
+  // whose cuts come and go) is not zeroed again.
+  const std::size_t entries = static_cast<std::size_t>(std::max(slot.ne, 0));
   for (auto* v : {&s.row_index, &s.col_index, &s.source_ha, &s.objective_col, &s.objective_at})
-    v->resize(slot.ne);
-  for (auto* v : {&s.value, &s.row_value, &s.source_a}) v->resize(slot.ne);
+    if (v->size() < entries) v->resize(entries);
+  for (auto* v : {&s.value, &s.row_value, &s.source_a})
+    if (v->size() < entries) v->resize(entries);
   // Entries repeated within a column add up (the factorization takes each row once).
   int* last = s.candidate.data();  // position of each row's entry in the current column
   std::fill(last, last + s.m, -1);
