@@ -80,9 +80,9 @@ void copy_solution(const ProblemSlot& s, std::vector<double>& duals,
   const std::size_t nb = static_cast<std::size_t>(s.n) + s.m;
   if (primal.size() < nb + 1) primal.resize(nb + 1);
   if (duals.size() < nb + 1) duals.resize(nb + 1);
-  for (std::size_t j = 1; j <= nb; ++j) primal[j] = s.xn[j];
-  for (int i = 1; i <= s.m; ++i) duals[i] = s.pi[i];
-  for (int j = 1; j <= s.n; ++j) duals[s.m + j] = s.rc[j];
+  std::copy_n(s.xn.begin() + 1, nb, primal.begin() + 1);
+  std::copy_n(s.pi.begin() + 1, s.m, duals.begin() + 1);
+  std::copy_n(s.rc.begin() + 1, s.n, duals.begin() + 1 + s.m);
 }
 
 // The optimizer's start word for start 0, 1 or any other value.
