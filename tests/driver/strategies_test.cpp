@@ -1,6 +1,6 @@
 // The strategies end to end. The exact ones (the expected-value run followed by the universe,
 // istrat 5; the universe alone, istrat 4, also with a regularized master, with a cut per outcome
-// and with a few groups of outcomes) reach the known optimum of every small bundled problem, and
+// and with a few groups of outcomes; both with stabilized proposals) reach the known optimum of every small bundled problem, and
 // the first-stage solution they report satisfies the first-stage rows of the core problem. The
 // sampled ones on lands-1e6 (a million outcomes) report a 95% interval that covers the optimum.
 #include <gtest/gtest.h>
@@ -51,8 +51,10 @@ double first_stage_violation(const fs::path& dir, const StatusFile& sog) {
 TEST(ExactStrategies, ReachTheKnownOptimum) {
   for (const Known& k : kKnown) {
     const std::string grouped = std::string("4 istrat\n") + k.groups + " ncuts\n";
+    const std::string stabilized = grouped + "0.8 stabil\n";
     for (const std::string strategy :
-         {"4 istrat\n", "5 istrat\n", "4 istrat\n1 ireg\n", "4 istrat\n0 ncuts\n", grouped.c_str()}) {
+         {"4 istrat\n", "5 istrat\n", "4 istrat\n1 ireg\n", "4 istrat\n0 ncuts\n", grouped.c_str(),
+          "5 istrat\n0.5 stabil\n", stabilized.c_str()}) {
       SCOPED_TRACE(std::string(k.example) + " " + strategy);
       const ExampleRun run(k.example, strategy + "100 nzrows\n1000 maxit\n1.0d-7 tolben\n");
       EXPECT_TRUE(contains(run.program.console, " Normal Exit\n"));
