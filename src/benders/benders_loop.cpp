@@ -357,6 +357,10 @@ int benders_loop(const sampling::Context& ctx, sampling::Evaluation& ev, SolveSt
   write_record(ctx.units, kConsole, "(1x,i6,3(1x,e20.4))",
                {static_cast<long long>(st.iterations), st.lower});
   if (ireg == 1) write_free(ctx.units, kConsole, "regularization on.");
+  if (ctx.params.stabil > 0.0 && !stabilizing(ctx, s, ireg)) {
+    write_free(ctx.units, ctx.log_unit,
+               "stabil ignored: the strategy draws new outcomes or regularizes the master");
+  }
   if (iterate(ctx, ev, st, s, ireg) != sampling::kOk) return sampling::kErrorExit;
   return finish_run(ctx, ev, st, s);
 }
