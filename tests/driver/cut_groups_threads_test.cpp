@@ -115,10 +115,12 @@ TEST(SolveOrder, TracesDoNotChangeTheResults) {
   }
 }
 
-TEST(CutGroups, StrategiesThatDrawAfreshIgnoreThem) {
-  const ExampleRun run("lands3", "7 istrat\n0 ncuts\n");
-  EXPECT_TRUE(contains(run.file("MODEL.SCR"),
-                       " ncuts ignored: the strategy draws new outcomes, one cut per iteration\n"));
+TEST(CutGroups, StrategiesThatDrawAfreshIgnoreThemAndStabilization) {
+  const ExampleRun run("lands3", "7 istrat\n0 ncuts\n0.5 stabil\n");
+  const std::string log = run.file("MODEL.SCR");
+  EXPECT_TRUE(contains(log, " ncuts ignored: the strategy draws new outcomes, one cut per iteration\n"));
+  EXPECT_TRUE(contains(
+      log, " stabil ignored: the strategy draws new outcomes or regularizes the master\n"));
   EXPECT_EQ(run.sog.column_value.count("THG00001"), 0u);
   EXPECT_TRUE(contains(run.program.console, " Normal Exit\n"));
 }
