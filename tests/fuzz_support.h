@@ -10,6 +10,7 @@
 
 #include <chrono>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -94,6 +95,24 @@ inline std::vector<fs::path> fuzz_regressions(const std::string& file) {
     if (entry.is_directory() && fs::exists(entry.path() / file)) cases.push_back(entry.path());
   }
   return cases;
+}
+
+// Replays each kept case that holds any of `files` in a fresh working directory; `run` (given
+// that directory) is true when the case was read quickly.
+template <typename Run>
+void replay_regressions(const std::vector<const char*>& files, Run run) {
+  std::set<fs::path> kept;
+  for (const char* file : files) {
+    for (const fs::path& source : fuzz_regressions(file)) kept.insert(source);
+  }
+  for (const fs::path& source : kept) {
+    SCOPED_TRACE(source.string());
+    const WorkDir dir("replay");
+    for (const char* file : files) {
+      if (fs::exists(source / file)) fs::copy(source / file, file);
+    }
+    EXPECT_TRUE(run(dir.path.string()));
+  }
 }
 
 }  // namespace tarvo::testing

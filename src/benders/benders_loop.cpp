@@ -27,6 +27,9 @@ constexpr int kWarmStart = 1;
 // A group's cut enters a multi-cut master when the group's cost exceeds its THETA by more than
 // this fraction of tolben (relative to the cost): well inside the gap the stopping test allows.
 constexpr double kGroupCutExcess = 1.0e-3;
+// A stabilized iteration counts as progress when the lower bound rose by this fraction of it.
+constexpr double kLowerBoundRise = 1.0e-9;
+constexpr int kObjectiveRow = 1;
 
 bool statistical_test(int s) { return s == 2 || s == 3 || s == 6 || s == 7 || s == 11; }
 bool sampled(int s) { return s >= 2 && s <= 11 && s != 4 && s != 5; }
@@ -208,9 +211,42 @@ int add_evaluation_cut(const sampling::Context& ctx, sampling::Evaluation& ev, S
   return sampling::kOk;
 }
 
+// In-out stabilization: the cuts of an iteration are taken at stabil x best + (1 - stabil) x the
+// master's solution, which keeps the proposals from jumping across the first stage while the
+// cuts are still few. Every cut stays valid and every proposal first-stage feasible (both ends
+// are), so the bounds keep their meaning; an iteration whose cuts did not raise the lower bound
+// is followed by one at the master's own solution, as plain Benders would take.
+bool stabilizing(const sampling::Context& ctx, int s, int ireg) {
+  const bool fixed_points = !sampled(s) || presampled(s);
+  return ctx.params.stabil > 0.0 && ireg == 0 && fixed_points;
+}
+
+// Moves the proposal toward the best one; the first-stage cost follows along the objective row.
+void move_toward_best(const sampling::Context& ctx, const sampling::Evaluation& ev,
+                      SolveState& st) {
+  const lp::ProblemSlot& master = ctx.optimizer.slot[lp::kMasterSlot];
+  const double weight = ctx.params.stabil;
+  for (int j = 1; j <= ctx.model.n1; ++j) {
+    const double from = ctx.master_primal[j];
+    const double to = weight * ev.best_master_primal[j] + (1.0 - weight) * from;
+    for (int k = master.ka[j]; k < master.ka[j + 1]; ++k) {
+      if (master.ha[k] == kObjectiveRow) st.first_stage_cost += master.a[k] * (to - from);
+    }
+    ctx.master_primal[j] = to;
+  }
+}
+
 int iterate(const sampling::Context& ctx, sampling::Evaluation& ev, SolveState& st, int s,
             int ireg) {
+  const bool stabilized = stabilizing(ctx, s, ireg);
+  double last_lower = -sampling::kInfiniteCost;
   for (bool first = true;; first = false) {
+    if (stabilized && !first && ev.best_total < sampling::kInfiniteCost) {
+      if (st.lower > last_lower + kLowerBoundRise * std::fabs(st.lower)) {
+        move_toward_best(ctx, ev, st);
+      }
+      last_lower = st.lower;
+    }
     if (sampling::evaluate(ctx, ev, s) != sampling::kOk) return sampling::kErrorExit;
     if (first && expected_value_first(s)) {
       write_free(ctx.units, kSolutionUnit);
@@ -321,6 +357,10 @@ int benders_loop(const sampling::Context& ctx, sampling::Evaluation& ev, SolveSt
   write_record(ctx.units, kConsole, "(1x,i6,3(1x,e20.4))",
                {static_cast<long long>(st.iterations), st.lower});
   if (ireg == 1) write_free(ctx.units, kConsole, "regularization on.");
+  if (ctx.params.stabil > 0.0 && !stabilizing(ctx, s, ireg)) {
+    write_free(ctx.units, ctx.log_unit,
+               "stabil ignored: the strategy draws new outcomes or regularizes the master");
+  }
   if (iterate(ctx, ev, st, s, ireg) != sampling::kOk) return sampling::kErrorExit;
   return finish_run(ctx, ev, st, s);
 }

@@ -1,6 +1,6 @@
 #pragma once
 // The run parameters, with their defaults: the sixteen of every run, the switch for integer
-// columns, the cut groups and the threads. Read once at the start of a run (driver); every
+// columns, the cut groups, the threads and the stabilization. Read once at the start of a run (driver); every
 // subsystem reads them from here.
 
 namespace tarvo {
@@ -26,6 +26,8 @@ struct RunParams {
   int irelax = 0;
   int ncuts = 1;     // cut groups of the master: 1 a single cut, 0 one per outcome, k > 1 k groups
   int nthreads = 1;  // threads that solve subproblems at the same time
+  // Weight of the best proposal in the point where cuts are taken (0: the master's solution).
+  double stabil = 0.0;
 };
 
 }  // namespace tarvo

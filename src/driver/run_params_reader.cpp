@@ -11,19 +11,19 @@
 namespace tarvo::driver {
 namespace {
 
-// The sixteen parameters of every run, then irelax, ncuts and nthreads. All but irelax are
-// echoed.
-constexpr int kParams = 19;
+// The sixteen parameters of every run, then irelax, ncuts, nthreads and stabil. All but irelax
+// are echoed.
+constexpr int kParams = 20;
 constexpr std::array<std::string_view, kParams> kUpperKeywords = {
     "ISTRAT  ", "NSAMPLES", "NZROWS  ", "MAXIT   ", "IWRITE  ", "IBUG    ", "ISCRATCH", "IRESAMP ",
     "IGMS    ", "IREG    ", "RHO     ", "TOLBEN  ", "TOLW    ", "IAPPR   ", "MAXTIME ", "ISEED   ",
-    "IRELAX  ", "NCUTS   ", "NTHREADS"};
+    "IRELAX  ", "NCUTS   ", "NTHREADS", "STABIL  "};
 
 constexpr std::array<std::string_view, kParams> kEchoLabels = {
     "istrat    = ", "nsamples  = ", "nzrows    = ", "maxit     = ", "iwrite    = ", "ibug      = ",
     "iscratch  = ", "iresamp   = ", "igms      = ", "ireg      = ", "rho       = ", "tolben    = ",
     "tolw      = ", "iappr     = ", "maxtime   = ", "iseed     = ", "",             "ncuts     = ",
-    "nthreads  = "};
+    "nthreads  = ", "stabil    = "};
 
 constexpr double kSmallestRho = 1.0e-6;
 
@@ -68,6 +68,7 @@ double* real_param(RunParams& p, int k) {
     case 12: return &p.tolben;
     case 13: return &p.tolw;
     case 15: return &p.maxtime;
+    case 20: return &p.stabil;
     default: return nullptr;
   }
 }
@@ -156,6 +157,8 @@ bool run_params_usable(Units& units, int log_unit, int err_unit, const RunParams
     message = "error: nzrows must be at least 1";
   } else if (params.nsamples < 1 && sampled_strategy(params.istrat)) {
     message = "error: nsamples must be at least 1 for a sampled strategy";
+  } else if (!(params.stabil >= 0.0 && params.stabil < 1.0)) {
+    message = "error: stabil must be at least 0 and below 1";
   }
   if (message == nullptr) return true;
   write_free(units, log_unit, message);

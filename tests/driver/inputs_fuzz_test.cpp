@@ -3,8 +3,6 @@
 // crashes or hangs, and what they leave is whole.
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "driver/run_params_reader.h"
 #include "driver/solution_reader.h"
 #include "fuzz_support.h"
@@ -83,18 +81,7 @@ TEST(InputsFuzz, MutatedOptionsParametersAndSolutionsNeverCrash) {
 }
 
 TEST(InputsFuzz, RegressionsReplay) {
-  std::set<fs::path> kept;
-  for (const char* file : kFiles) {
-    for (const fs::path& source : fuzz_regressions(file)) kept.insert(source);
-  }
-  for (const fs::path& source : kept) {
-    SCOPED_TRACE(source.string());
-    const WorkDir dir("replay");
-    for (const char* file : kFiles) {
-      if (fs::exists(source / file)) fs::copy(source / file, file);
-    }
-    EXPECT_TRUE(run_case());
-  }
+  replay_regressions({std::begin(kFiles), std::end(kFiles)}, [](const std::string&) { return run_case(); });
 }
 
 }  // namespace

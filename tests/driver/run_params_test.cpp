@@ -96,6 +96,8 @@ TEST(RunParams, ValuesTheRunCannotUseEndItWithTheirMessage) {
       {"0 nsamples\n10 istrat\n", " error: nsamples must be at least 1 for a sampled strategy\n"},
       {"-1 nzrows\n4 istrat\n", " error: nzrows must be at least 1\n"},
       {"-5 nzrows\n4 istrat\n", " error: nzrows must be at least 1\n"},
+      {"1.0 stabil\n4 istrat\n", " error: stabil must be at least 0 and below 1\n"},
+      {"-0.1 stabil\n4 istrat\n", " error: stabil must be at least 0 and below 1\n"},
       {"-5 nsamples\n5 istrat\n", ""},
   };
   for (const auto& c : cases) {

@@ -97,36 +97,46 @@ TEST(Decompose, StagedLookupSearchesSubproblemThenMaster) {
   EXPECT_EQ(matrix_entry(split.model.sub, 2, 2), kNotFound);
 }
 
+// The split (4 cut rows) and the cut groups added after it (2 cut rows, 2 groups), each in slots
+// too small for it.
 TEST(Decompose, CapacityMessagesInTheirOrder) {
-  struct Case {
-    int master_rows, master_elements, b_capacity, sub_elements;
+  const struct {
+    bool groups;
+    int rows, columns, elements, b_capacity, sub_elements;
     const char* message;
+  } cases[] = {
+      {false, 6, 10, 100, 10, 100, "ERROR: need  7 rows for master"},
+      {false, 7, 10, 100, 0, 100, "ERROR: need  1 nonzeros for B matrix"},
+      {false, 7, 10, 10, 10, 10, "ERROR: need  13 nonzeros for master"},
+      {false, 7, 10, 100, 10, 3, "ERROR: need  4 nonzeros for sub"},
+      {true, 5, 10, 100, 0, 0, "ERROR: need  6 rows for master"},
+      {true, 10, 4, 100, 0, 0, "ERROR: need  5 columns for master"},
+      {true, 10, 10, 13, 0, 0, "ERROR: need  14 nonzeros for master"},
   };
-  const Case cases[] = {
-      {6, 100, 10, 100, "ERROR: need  7 rows for master"},
-      {7, 100, 0, 100, "ERROR: need  1 nonzeros for B matrix"},
-      {7, 10, 10, 10, "ERROR: need  13 nonzeros for master"},
-      {7, 100, 10, 3, "ERROR: need  4 nonzeros for sub"},
-  };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     Split split;
-    split.run("FIRST1", 4);
+    split.run("FIRST1", c.groups ? 2 : 4);
     Model& m = split.model;
-    m.master = make_slot(c.master_rows, 10, c.master_elements);
-    m.sub = make_slot(10, 10, c.sub_elements);
-    m.dec.b.assign(c.b_capacity + 1, 0.0);
-    m.dec.hb.assign(c.b_capacity + 1, 0);
     open_unit(m.units, 17, split.dir.file("log2"), OpenStatus::unknown);
-    EXPECT_EQ(decompose(m.core, m.stages, 4, m.master, m.sub, m.dec, m.units, {17, 17}), InputStatus::storage);
+    if (c.groups) {
+      m.master.mmax = c.rows;
+      m.master.nmax = c.columns;
+      m.master.nemax = c.elements;
+      EXPECT_EQ(add_cut_groups(m.master, m.dec, 2, m.units, {17, 17}), InputStatus::storage);
+    } else {
+      m.master = make_slot(c.rows, c.columns, c.elements);
+      m.sub = make_slot(10, 10, c.sub_elements);
+      m.dec.b.assign(c.b_capacity + 1, 0.0);
+      m.dec.hb.assign(c.b_capacity + 1, 0);
+      EXPECT_EQ(decompose(m.core, m.stages, 4, m.master, m.sub, m.dec, m.units, {17, 17}), InputStatus::storage);
+    }
     close_unit(m.units, 17);
-    const std::string log = read_file(split.dir.file("log2"));
-    EXPECT_EQ(log, std::string(" ") + c.message + "\n");
+    EXPECT_EQ(read_file(split.dir.file("log2")), std::string(" ") + c.message + "\n");
   }
 }
 
 // Cut groups add a THETA column per group after THETA and the row THETASUM (THETA minus the
-// group columns, = 0) after the cut rows; the rows' data move along with the new columns. A
-// master too small for them gets the capacity message of the split.
+// group columns, = 0) after the cut rows; the rows' data move along with the new columns.
 TEST(Decompose, CutGroupsFollowThetaWithTheirSumRow) {
   Split split;
   split.run("FIRST1", 2);
@@ -146,25 +156,6 @@ TEST(Decompose, CutGroupsFollowThetaWithTheirSumRow) {
   EXPECT_EQ(lp::row_lower(m.master, 6), 0.0);
   EXPECT_EQ(lp::row_upper(m.master, 6), 0.0);
   EXPECT_EQ(m.dec.groups, 2);
-
-  struct Case { int rows, columns, elements; const char* message; };
-  const Case cases[] = {
-      {5, 10, 100, "ERROR: need  6 rows for master"},
-      {10, 4, 100, "ERROR: need  5 columns for master"},
-      {10, 10, 13, "ERROR: need  14 nonzeros for master"},
-  };
-  for (const Case& c : cases) {
-    Split small;
-    small.run("FIRST1", 2);
-    Model& s = small.model;
-    s.master.mmax = c.rows;
-    s.master.nmax = c.columns;
-    s.master.nemax = c.elements;
-    open_unit(s.units, 17, small.dir.file("log2"), OpenStatus::unknown);
-    EXPECT_EQ(add_cut_groups(s.master, s.dec, 2, s.units, {17, 17}), InputStatus::storage);
-    close_unit(s.units, 17);
-    EXPECT_EQ(read_file(small.dir.file("log2")), std::string(" ") + c.message + "\n");
-  }
 }
 
 }  // namespace

@@ -111,14 +111,8 @@ TEST(Fuzz, MutatedExamplesNeverCrash) {
 }
 
 TEST(Fuzz, RegressionsReplay) {
-  for (const std::filesystem::path& kept : tarvo::testing::fuzz_regressions("MODEL.COR")) {
-    SCOPED_TRACE(kept.string());
-    TempDir dir("replay");
-    for (const char* file : {"MODEL.COR", "MODEL.TIM", "MODEL.STO"}) {
-      if (std::filesystem::exists(kept / file)) std::filesystem::copy(kept / file, dir.path / file);
-    }
-    EXPECT_TRUE(run_case(dir.path.string()));
-  }
+  tarvo::testing::replay_regressions({"MODEL.COR", "MODEL.TIM", "MODEL.STO"},
+                                     [](const std::string& dir) { return run_case(dir); });
 }
 
 }  // namespace

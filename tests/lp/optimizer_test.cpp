@@ -1,5 +1,8 @@
-// Initialization from SIMPLEX.SPC, the problem slots and the objective mode (the regularization
-// callback is checked through the regularized solves of simplex_quadratic_test.cpp).
+// The optimizer's entries: initialization from SIMPLEX.SPC, the problem slots, the objective mode
+// (the regularization callback is checked through the regularized solves of
+// simplex_quadratic_test.cpp), and solve requests on one-column problems whose outcome is known:
+// what reaches the caller (status, objective or sum of infeasibilities, duals and primal values)
+// and the error lines.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -9,6 +12,7 @@
 #include "common/free_format.h"
 #include "lp/optimizer.h"
 #include "run_in_dir.h"
+#include "simplex_test_support.h"
 
 namespace tarvo::lp {
 namespace {
@@ -32,7 +36,7 @@ struct InitCase {
   bool allocated = true;        // false: refused before any slot is filled
 };
 
-const InitCase kCases[] = {
+const InitCase kInitCases[] = {
     {"sample, no debug", kSampleOptions, 0, 0, {}, 3000, 10000, 120000, 0,
      {"      BEGIN  options for the bundled test problems", "         ITERATIONS LIMIT     200000",
       "      END", "      SUMMARY FILE 0", "      PRINT   FILE 0"}},
@@ -55,7 +59,7 @@ Lines size_lines(int rows, int columns, int elements) {
 }
 
 TEST(OptimizerInit, ReadsTheOptionsFileAndSizesEverySlot) {
-  for (const InitCase& c : kCases) {
+  for (const InitCase& c : kInitCases) {
     SCOPED_TRACE(c.name);
     testing::WorkDir dir;
     if (c.text != nullptr) testing::write_file("SIMPLEX.SPC", c.text);
@@ -95,13 +99,18 @@ TEST(OptimizerInit, ReadsTheOptionsFileAndSizesEverySlot) {
   }
 }
 
+// An optimizer with slots of 4 rows, 3 columns and 10 elements, the screen log on kOut.
+void init_small(Optimizer& opt, Units& units) {
+  testing::write_file("SIMPLEX.SPC", "BEGIN\nROWS 4\nCOLUMNS 3\nELEMENTS 10\nEND\n");
+  ASSERT_EQ(optimizer_init(opt, units, 0, 0, 0), 0);
+  open_unit(units, kOut, "MODEL.SCR", OpenStatus::unknown);
+}
+
 TEST(OptimizerSlots, ObjectiveModeSetsCountsAndOptions) {
   testing::WorkDir dir;
-  testing::write_file("SIMPLEX.SPC", "BEGIN\nROWS 4\nCOLUMNS 3\nELEMENTS 10\nEND\n");
   Units units;
   Optimizer opt;
-  open_unit(units, kOut, "MODEL.SCR", OpenStatus::unknown);
-  optimizer_init(opt, units, 0, 0, 0);
+  init_small(opt, units);
   select_problem(opt, kMasterSlot);
   ProblemSlot& s = active_slot(opt);
   s.n = 4;
@@ -121,6 +130,66 @@ TEST(OptimizerSlots, ObjectiveModeSetsCountsAndOptions) {
   EXPECT_EQ(testing::read_lines("MODEL.SCR"),
             (Lines{"      SUPERBASICS LIMIT 5", "      HESSIAN DIMENSION 5",
                    "      PARTIAL PRICE 1", "      SUPERBASICS LIMIT 1"}));
+}
+
+struct SolveCase {
+  const char* name;
+  double cost;       // objective coefficient of the column
+  double row_lower;  // row 2: x >= row_lower
+  double column_lower, column_upper;
+  int nwcore;  // 0: as sized at initialization
+  int inform;
+  double objective;    // expected when inform = 0
+  std::string line;    // expected error line ("" none)
+};
+
+const SolveCase kSolveCases[] = {
+    {"optimal", 1.0, 1.0, 0.0, 10.0, 0, 0, 1.0, ""},
+    {"infeasible", 1.0, 5.0, 0.0, 1.0, 0, 1, 0.0, free_line("ERROR: PROBLEM INFEASIBLE")},
+    {"unbounded", -1.0, 1.0, 0.0, kInfiniteBound, 0, 2, 0.0,
+     free_line("ERROR: PROBLEM UNBOUNDED")},
+    {"workspace too small", 1.0, 1.0, 0.0, 10.0, 1, 42, 0.0,
+     free_line("ERROR: ERROR CODE: ", 42)},
+};
+
+TEST(SolveProblem, HandsBackStatusObjectiveAndSolution) {
+  for (const SolveCase& c : kSolveCases) {
+    SCOPED_TRACE(c.name);
+    testing::WorkDir dir;
+    Units units;
+    Optimizer opt;
+    init_small(opt, units);
+    select_problem(opt, kSubproblemSlot);
+    ProblemSlot& s = active_slot(opt);
+    // min cost*x subject to x >= row_lower, column_lower <= x <= column_upper.
+    test::load_slot({1, 1, {c.cost}, {{1.0}}, {c.row_lower}, {test::kFree}, {c.column_lower}, {c.column_upper}}, s);
+    set_objective_mode(opt, units, 0, 0);
+    set_option(opt.options, units, "MPS FILE 5", 0, 0);
+    if (c.nwcore != 0) opt.nwcore = c.nwcore;
+
+    int inform = -1;
+    double objective = -99.0;
+    double spare = 0.0;
+    std::vector<double> duals(8, -99.0);
+    std::vector<double> primal(8, -99.0);
+    EXPECT_EQ(solve_problem(opt, units, kOut, inform, 0, objective, spare, duals, spare, primal), 0);
+    close_all_units(units);
+
+    EXPECT_EQ(inform, c.inform);
+    EXPECT_EQ(opt.options.ival[kMpsFile], 0);
+    EXPECT_EQ(testing::read_lines("MODEL.SCR"),
+              c.line.empty() ? std::vector<std::string>{} : std::vector<std::string>{c.line});
+    if (c.inform == 0) {
+      EXPECT_NEAR(objective, c.objective, 1e-9);
+    }
+    if (c.inform == 1) {
+      EXPECT_GT(s.sinf, 0.0);
+      EXPECT_EQ(objective, s.sinf);
+    }
+    for (int j = 1; j <= s.nb; ++j) EXPECT_EQ(primal[j], s.xn[j]) << j;
+    for (int i = 1; i <= s.m; ++i) EXPECT_EQ(duals[i], s.pi[i]) << i;
+    EXPECT_EQ(duals[s.m + 1], s.rc[1]);
+  }
 }
 
 }  // namespace
