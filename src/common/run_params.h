@@ -1,7 +1,7 @@
 #pragma once
 // The run parameters, with their defaults: the sixteen of every run, the switch for integer
-// columns, the cut groups, the threads and the stabilization. Read once at the start of a run (driver); every
-// subsystem reads them from here.
+// columns, the cut groups, the threads and the stabilization. Read once at the start of a run
+// (driver); every subsystem reads them from here.
 
 namespace tarvo {
 
