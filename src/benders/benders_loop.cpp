@@ -29,7 +29,6 @@ constexpr int kWarmStart = 1;
 constexpr double kGroupCutExcess = 1.0e-3;
 // A stabilized iteration counts as progress when the lower bound rose by this fraction of it.
 constexpr double kLowerBoundRise = 1.0e-9;
-constexpr int kObjectiveRow = 1;
 
 bool statistical_test(int s) { return s == 2 || s == 3 || s == 6 || s == 7 || s == 11; }
 bool sampled(int s) { return s >= 2 && s <= 11 && s != 4 && s != 5; }
@@ -230,7 +229,7 @@ void move_toward_best(const sampling::Context& ctx, const sampling::Evaluation& 
     const double from = ctx.master_primal[j];
     const double to = weight * ev.best_master_primal[j] + (1.0 - weight) * from;
     for (int k = master.ka[j]; k < master.ka[j + 1]; ++k) {
-      if (master.ha[k] == kObjectiveRow) st.first_stage_cost += master.a[k] * (to - from);
+      if (master.ha[k] == master.iobj) st.first_stage_cost += master.a[k] * (to - from);
     }
     ctx.master_primal[j] = to;
   }
