@@ -33,7 +33,8 @@ StochSection section_of(StochCard card) {
 }
 
 bool mixes_scenarios(StochCard card, bool scenarios_seen, bool parameters_seen) {
-  return card == StochCard::scenarios ? parameters_seen : scenarios_seen;
+  if (card == StochCard::scenarios) return parameters_seen;
+  return (card == StochCard::indep || card == StochCard::blocks) && scenarios_seen;
 }
 
 void report_mixed_sections(Units& units, const MessageUnits& to, int line_number) {

@@ -61,6 +61,7 @@ struct Case {
   const char* step;
   const char* message;
   Check check = nullptr;
+  const char* absent = nullptr;  // a message the log must not hold
 };
 
 std::size_t column(const Model& m, const char* name) {
@@ -204,6 +205,9 @@ const Case kCases[] = {
      bad, "stoch", "ERROR in .sto: line 5: scenario S2 in period PERIOD3 makes a multistage tree"},
     {"scenarios after INDEP", 'S', rep("ENDATA", "SCENARIOS     DISCRETE\nENDATA"), bad, "prescan",
      "ERROR in .sto: line 6: SCENARIOS cannot be mixed with INDEP or BLOCKS sections"},
+    {"unknown card after SCENARIOS", 'S',
+     whole(scenarios(sc("S1", "'ROOT'", "1", "PERIOD1") + rec("", "RIGHT", "DEMAND1", "3") + "DISTRIB\n")), bad,
+     "prescan", "error(s) in stoch file!", nullptr, "cannot be mixed"},
     {"first stage without rows", 'T', rep("OPLIM1", "MINCAP"), ok, "", "",
      [](const Model& m) { EXPECT_EQ(m.dec.m1, 1); EXPECT_EQ(m.dec.m2, m.core.m); EXPECT_EQ(m.master.ne, 4 + 4 * 100 + 101); }},
     {"bad number in the stochastic file", 'S', rep("3.0 ", "3.x "), bad, "stoch",
@@ -228,6 +232,9 @@ TEST(BadInput, EachFaultHasItsMessageAndStatus) {
     EXPECT_EQ(model.failed_step, c.step) << log;
     EXPECT_NE(log.find(c.message), std::string::npos) << log;
     if (c.check) c.check(model);
+    if (c.absent) {
+      EXPECT_EQ(log.find(c.absent), std::string::npos) << log;
+    }
   }
 }
 
