@@ -220,19 +220,15 @@ bool stabilizing(const sampling::Context& ctx, int s, int ireg) {
   return ctx.params.stabil > 0.0 && ireg == 0 && fixed_points;
 }
 
-// Moves the proposal toward the best one; the first-stage cost follows along the objective row.
+// Moves the proposal toward the best one; the first-stage cost, linear, moves with it.
 void move_toward_best(const sampling::Context& ctx, const sampling::Evaluation& ev,
                       SolveState& st) {
-  const lp::ProblemSlot& master = ctx.optimizer.slot[lp::kMasterSlot];
   const double weight = ctx.params.stabil;
   for (int j = 1; j <= ctx.model.n1; ++j) {
-    const double from = ctx.master_primal[j];
-    const double to = weight * ev.best_master_primal[j] + (1.0 - weight) * from;
-    for (int k = master.ka[j]; k < master.ka[j + 1]; ++k) {
-      if (master.ha[k] == master.iobj) st.first_stage_cost += master.a[k] * (to - from);
-    }
-    ctx.master_primal[j] = to;
+    double& x = ctx.master_primal[j];
+    x = weight * ev.best_master_primal[j] + (1.0 - weight) * x;
   }
+  st.first_stage_cost = weight * ev.best_first_stage_cost + (1.0 - weight) * st.first_stage_cost;
 }
 
 int iterate(const sampling::Context& ctx, sampling::Evaluation& ev, SolveState& st, int s,

@@ -34,14 +34,19 @@ int cut_position(const lp::ProblemSlot& master, const CutRows& rows, int j, int 
   return 0;
 }
 
+// How many cut rows each group holds, into pool.group_rows.
+void count_group_rows(CutPool& pool, int nzrows) {
+  std::fill(pool.group_rows.begin(), pool.group_rows.end(), 0);
+  for (int r = 1; r <= nzrows; ++r) {
+    if (pool.holder[r] > 0) ++pool.group_rows[pool.holder[r]];
+  }
+}
+
 // The group columns' entries: each its entry in THETASUM (-1), then a 1 in every cut row that
 // holds one of its group's cuts, in row order.
 void lay_out_group_columns(lp::ProblemSlot& master, CutRows& rows) {
   CutPool& pool = rows.pool;
-  std::fill(pool.group_rows.begin(), pool.group_rows.end(), 0);
-  for (int r = 1; r <= rows.nzrows; ++r) {
-    if (pool.holder[r] > 0) ++pool.group_rows[pool.holder[r]];
-  }
+  count_group_rows(pool, rows.nzrows);
   const int link = master.m;
   int p = master.ka[pool.theta + 1];
   for (int g = 1; g <= pool.groups; ++g) {
@@ -92,10 +97,7 @@ int choose_rows(CutRows& rows, int wanted) {
     if (rows.slack[a] != rows.slack[b]) return rows.slack[a] > rows.slack[b];
     return a < b;
   });
-  std::fill(pool.group_rows.begin(), pool.group_rows.end(), 0);
-  for (int r = 1; r <= rows.nzrows; ++r) {
-    if (pool.holder[r] > 0) ++pool.group_rows[pool.holder[r]];
-  }
+  count_group_rows(pool, rows.nzrows);
   for (int i = found + 1; i <= slack_rows && found < wanted; ++i) {
     const int r = pool.taken[i];
     const int g = pool.holder[r];

@@ -16,10 +16,10 @@ inline constexpr int kMaxParamRecords = 1000;
 bool read_run_params(Units& units, RunParams& params, const std::string& file_name = "MODEL.INP");
 
 // One record of the file: a number and a keyword. Returns the parameter number (1..16, 17 for
-// irelax, 18 ncuts, 19 nthreads) the keyword names, or 0 when it names none.
+// irelax, 18 ncuts, 19 nthreads, 20 stabil) the keyword names, or 0 when it names none.
 int run_param_index(std::string_view keyword8);
 
-// Stores `value` into parameter k (1..19); integer parameters take it truncated toward zero.
+// Stores `value` into parameter k (1..20); integer parameters take it truncated toward zero.
 // False when an integer parameter's value does not fit in 32 bits.
 bool set_run_param(RunParams& params, int k, double value);
 

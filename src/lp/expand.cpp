@@ -3,7 +3,8 @@
 // grows a little every iteration. The primal test takes at least the step that this growth
 // allows: no primal step is zero, so the objective moves every iteration and a degenerate vertex
 // cannot be cycled at (the dual method perturbs its costs after a run of zero steps instead).
-// Every EXPAND FREQUENCY iterations, and whenever the basis is factorized afresh, the share starts
+// Every EXPAND FREQUENCY iterations, and at each refactorization inside the primal and dual
+// iterations (it carries over between solves otherwise), the share starts
 // again from its lower end and what slipped is cleaned up: nonbasic variables return to their
 // bounds exactly (the caller recomputes the basic ones) and reduced costs of the wrong sign are
 // shifted to zero (the shifts go when the solve ends). At an optimum the slipped nonbasic

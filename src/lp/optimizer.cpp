@@ -75,6 +75,18 @@ void allocate_slots(Optimizer& opt) {
   }
 }
 
+// Completes the capacities (a file without ROWS, COLUMNS or ELEMENTS still sizes the slots: by the
+// defaults of a solve), writes them under `heading` and fills the slots; false when they would not
+// fit the memory limit.
+bool size_slots(Optimizer& opt, Units& units, int out_unit, int err_unit,
+                std::string_view heading) {
+  complete_capacities(opt.options);
+  write_sizes(opt.options, units, out_unit, heading);
+  if (!capacities_fit_memory(opt.options, units, err_unit)) return false;
+  allocate_slots(opt);
+  return true;
+}
+
 void copy_solution(const ProblemSlot& s, std::vector<double>& duals,
                    std::vector<double>& primal) {
   const std::size_t nb = static_cast<std::size_t>(s.n) + s.m;
@@ -112,11 +124,7 @@ int optimizer_init(Optimizer& opt, Units& units, int out_unit, int err_unit, int
   } else if (debug == 0) {
     switch_print_files_off(opt, units);
   }
-  // A file without ROWS, COLUMNS or ELEMENTS still sizes the slots: by the defaults of a solve.
-  complete_capacities(opt.options);
-  write_sizes(opt.options, units, out_unit, "Simplex specs file:");
-  if (!capacities_fit_memory(opt.options, units, err_unit)) return kInitFailed;
-  allocate_slots(opt);
+  if (!size_slots(opt, units, out_unit, err_unit, "Simplex specs file:")) return kInitFailed;
   return result;
 }
 
@@ -130,11 +138,8 @@ int optimizer_init_sized(Optimizer& opt, Units& units, int out_unit, int err_uni
   opt.options.ival[kColumnLimit] = capacity.columns;
   opt.options.ival[kElementsLimit] = capacity.elements;
   opt.options.ival[kIterationLimit] = capacity.iteration_limit;
-  complete_capacities(opt.options);
-  write_sizes(opt.options, units, out_unit, "Simplex slots sized from the model:");
-  if (!capacities_fit_memory(opt.options, units, err_unit)) return kInitFailed;
-  allocate_slots(opt);
-  return 0;
+  const std::string_view heading = "Simplex slots sized from the model:";
+  return size_slots(opt, units, out_unit, err_unit, heading) ? 0 : kInitFailed;
 }
 
 void select_problem(Optimizer& opt, int slot) {

@@ -265,7 +265,6 @@ DualStep dual_ratio_test(SimplexState& s, double infeasibility, double tolerance
     if (must_enter || slope - slope_drop <= tolerance) {
       out.degenerate = zero_wrong_sign(s, best, best_slack);
       out.entering = best;
-      out.dual_step = s.d[best] / s.pivot_row[best];
       return out;
     }
     if (group == count) break;  // every breakpoint passed and the dual still improves

@@ -151,7 +151,8 @@ struct SimplexState {
 
   // Anti-degeneracy: the ratio tests let variables pass their bounds (reduced costs pass zero) by
   // this share of their tolerances, which grows every iteration and starts again every EXPAND
-  // FREQUENCY iterations and at every factorization.
+  // FREQUENCY iterations and at each refactorization inside the primal and dual iterations (it
+  // carries over between solves otherwise).
   double expand_share = 0.5;
   int expand_count = 0;
 

@@ -147,7 +147,6 @@ PrimalStep primal_ratio_test(SimplexState& s, int q, int direction, const Simple
 PrimalStep phase_one_ratio_test(SimplexState& s, int q, int direction, const SimplexSettings& settings);
 struct DualStep {
   int entering = -1;  // -1: no candidate, the problem is infeasible
-  double dual_step = 0.0;
   bool degenerate = false;  // the dual step is zero
 };
 // `infeasibility` is the leaving variable's distance beyond the bound it leaves at, `tolerance` its

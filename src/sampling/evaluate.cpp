@@ -188,7 +188,6 @@ int reevaluate(const Context& ctx, Evaluation& ev, int istrat) {
   ev.collect = 0;
   if (status != kOk) return kErrorExit;
   ev.best_total = ev.cut.objs + ctx.first_stage_cost;
-  ev.chains[0].work.z = ev.best_total;
   ev.best_variance = ev.cut.variance;
   lp::select_problem(ctx.optimizer, lp::kMasterSlot);
   return kOk;
