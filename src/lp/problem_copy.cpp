@@ -57,8 +57,71 @@ bool slot_matrix_unchanged(const SimplexState& s, const ProblemSlot& slot, int s
   return true;
 }
 
+namespace {
+
+// Adds each entry of a column's list to its working row's sum, skipping those the load skips,
+// and lists (and marks in row_mark) the rows first touched.
+void add_row_sums(SimplexState& s, const int* rows, const double* values, int count, int slot_m,
+                  std::vector<double>& sum, int* touched, int& touched_count) {
+  for (int k = 0; k < count; ++k) {
+    const int i = rows[k];
+    if (i == s.objective_row || i < 1 || i > slot_m || values[k] == 0.0) continue;
+    const int r = s.work_row[i];
+    if (!s.row_mark[r]) {
+      s.row_mark[r] = 1;
+      touched[touched_count++] = r;
+    }
+    sum[r] += values[k];
+  }
+}
+
+void mark_differing_values(SimplexState& s, const int* rows, const double* before, const double* now, int count,
+                           int slot_m) {
+  for (int k = 0; k < count; ++k) {
+    const int i = rows[k];
+    if (before[k] == now[k] || i == s.objective_row || i < 1 || i > slot_m) continue;
+    s.row_changed[s.work_row[i]] = 1;
+  }
+}
+
+}  // namespace
+
+bool mark_changed_rows(SimplexState& s, const ProblemSlot& slot, int scale_option) {
+  if (!s.matrix_valid || s.source_m != slot.m || s.source_n != slot.n ||
+      s.source_objective_row != objective_row_of(slot) || s.source_scale_option != scale_option)
+    return false;
+  std::fill(s.row_changed.begin(), s.row_changed.begin() + s.m, 0);
+  int* touched = s.candidate.data();  // free until the first ratio test
+  for (int j = 0; j < s.n; ++j) {
+    const int source_first = s.source_ka[j] - 1;
+    const int source_count = s.source_ka[j + 1] - s.source_ka[j];
+    const int slot_first = slot.ka[j + 1];
+    const int slot_count = slot.ka[j + 2] - slot.ka[j + 1];
+    if (source_count == slot_count &&
+        std::memcmp(&s.source_ha[source_first], &slot.ha[slot_first], sizeof(int) * slot_count) == 0) {
+      // Same rows in the same order (a cut row rewritten in place): the rows of differing values
+      // change, which marks a row whose repeated entries keep their sum too, harmlessly.
+      mark_differing_values(s, &slot.ha[slot_first], &s.source_a[source_first], &slot.a[slot_first],
+                            slot_count, slot.m);
+      continue;
+    }
+    int touched_count = 0;
+    add_row_sums(s, &s.source_ha[source_first], &s.source_a[source_first], source_count, slot.m,
+                 s.source_row_sum, touched, touched_count);
+    add_row_sums(s, &slot.ha[slot_first], &slot.a[slot_first], slot_count, slot.m, s.slot_row_sum, touched,
+                 touched_count);
+    for (int t = 0; t < touched_count; ++t) {
+      const int r = touched[t];
+      s.row_changed[r] |= s.source_row_sum[r] != s.slot_row_sum[r];
+      s.source_row_sum[r] = s.slot_row_sum[r] = 0.0;
+      s.row_mark[r] = 0;
+    }
+  }
+  return true;
+}
+
 void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings,
-                         bool keep_scales) {
+                         ScaleReuse reuse) {
   const int iobj = objective_row_of(slot);
   s.objective_row = iobj;
   s.n = slot.n;
@@ -116,7 +179,8 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
   std::copy(slot.ha.begin() + 1, slot.ha.begin() + slot.ne + 1, s.source_ha.begin());
   std::copy(slot.a.begin() + 1, slot.a.begin() + slot.ne + 1, s.source_a.begin());
 
-  if (!keep_scales) compute_scales(s, settings);
+  if (reuse == ScaleReuse::none) compute_scales(s, settings);
+  if (reuse == ScaleReuse::unchanged_rows && settings.scale_option > 0) scale_changed_rows(s);
   for (int j = 0; j < s.n; ++j) {
     for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k)
       s.value[k] *= s.scale[j] / s.scale[s.n + s.row_index[k]];

@@ -83,6 +83,10 @@ struct ProblemSlot {
 
   bool loaded = false;
   Name8 problem_name;
+  // For a caller that rewrites some rows between solves and keeps the rest (cut rows): a matrix
+  // changed that way keeps its column scales and the scales of the untouched rows, and only the
+  // rewritten rows are scaled anew, instead of every scale being computed again.
+  bool rescale_changed_rows_only = false;
 
   std::vector<double> a;   // [1..ne] values, column by column
   std::vector<int> ha;     // [1..ne] row index of each value

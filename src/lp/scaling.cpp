@@ -117,4 +117,39 @@ void compute_scales(SimplexState& s, const SimplexSettings& settings) {
   for (int j = 0; j < s.n + s.m; ++j) s.inverse_scale[j] = 1.0 / s.scale[j];
 }
 
+void scale_changed_rows(SimplexState& s) {
+  // The largest entry of each changed row in the columns' scaled units, then the smallest and
+  // largest of those not negligible against it: their geometric mean sets the row's scale.
+  std::vector<double>& largest = s.row_floor_work;
+  std::vector<double>& lo = s.row_min_work;
+  std::vector<double>& hi = s.row_scale_work;
+  for (int i = 0; i < s.m; ++i) {
+    if (!s.row_changed[i]) continue;
+    largest[i] = hi[i] = 0.0;
+    lo[i] = HUGE_VAL;
+  }
+  for (int j = 0; j < s.n; ++j) {
+    for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k) {
+      const int i = s.row_index[k];
+      if (s.row_changed[i]) largest[i] = std::max(largest[i], std::fabs(s.value[k]) * s.scale[j]);
+    }
+  }
+  for (int j = 0; j < s.n; ++j) {
+    for (int k = s.col_start[j]; k < s.col_start[j + 1]; ++k) {
+      const int i = s.row_index[k];
+      if (!s.row_changed[i]) continue;
+      const double a = std::fabs(s.value[k]) * s.scale[j];
+      if (a < kScaleNegligible * largest[i]) continue;
+      lo[i] = std::min(lo[i], a);
+      hi[i] = std::max(hi[i], a);
+    }
+  }
+  for (int i = 0; i < s.m; ++i) {
+    if (!s.row_changed[i]) continue;
+    const double row = hi[i] > 0.0 ? 1.0 / std::sqrt(lo[i] * hi[i]) : 1.0;
+    s.scale[s.n + i] = 1.0 / power_of_two(row);
+    s.inverse_scale[s.n + i] = 1.0 / s.scale[s.n + i];
+  }
+}
+
 }  // namespace tarvo::lp

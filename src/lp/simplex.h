@@ -122,6 +122,11 @@ struct SimplexState {
   std::vector<int> source_ha;
   std::vector<double> source_a;
   bool matrix_valid = false;
+  // Rows whose entries differ between the source and the slot, and each row's entries summed
+  // as the load sums them (kept at zero between uses), for a reload that rescales those rows only.
+  std::vector<char> row_changed;       // [m]
+  std::vector<double> source_row_sum;  // [m]
+  std::vector<double> slot_row_sum;    // [m]
 
   // Basis and solution of the working problem.
   std::vector<int> head;         // [m] variable in each basis position

@@ -212,9 +212,14 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   if (!matrix_kept) {
     const bool same_shape = s.matrix_valid && s.source_m == slot.m && s.source_n == slot.n &&
                             s.source_scale_option == settings.scale_option;
-    const bool keep_scales = same_shape && mode.kind == StartKind::hot && mode.keep_scales;
-    load_working_matrix(s, slot, settings, keep_scales);
-    s.counters.reused_scales = keep_scales;
+    ScaleReuse reuse = ScaleReuse::none;
+    if (same_shape && mode.kind == StartKind::hot && mode.keep_scales) {
+      reuse = ScaleReuse::all;
+    } else if (slot.rescale_changed_rows_only && mark_changed_rows(s, slot, settings.scale_option)) {
+      reuse = ScaleReuse::unchanged_rows;
+    }
+    load_working_matrix(s, slot, settings, reuse);
+    s.counters.reused_scales = reuse == ScaleReuse::all;
   } else {
     s.counters.reused_scales = true;
   }
@@ -279,6 +284,9 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.rejected.assign(nt, -1);
   s.flipped.assign(nt, 0);
   s.row_mark.assign(mmax, 0);
+  s.row_changed.assign(mmax, 0);
+  s.source_row_sum.assign(mmax, 0.0);
+  s.slot_row_sum.assign(mmax, 0.0);
   s.superbasic.assign(nt, 0);
   s.regobj_x.assign(nmax + 1, 0.0);
   s.regobj_g.assign(nmax + 1, 0.0);

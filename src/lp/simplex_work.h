@@ -53,8 +53,14 @@ SimplexSettings settings_from_options(const Options& options);
 
 // Loading the slot into the working problem and the solution back (problem_copy.cpp).
 bool slot_matrix_unchanged(const SimplexState& s, const ProblemSlot& slot, int scale_option);
+// What a reload keeps of the scales: none, all, or all but those of the rows in row_changed.
+enum class ScaleReuse { none, all, unchanged_rows };
+// Marks in row_changed the working rows whose entries differ between the source of the scaled
+// copy and the slot. False, with nothing marked, when the two differ in shape, objective row or
+// scale option.
+bool mark_changed_rows(SimplexState& s, const ProblemSlot& slot, int scale_option);
 void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings,
-                         bool keep_scales);
+                         ScaleReuse reuse);
 // Returns true when a working cost differs from the previous load's. `matrix_kept`: the working
 // matrix was not reloaded since the last call.
 bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings,
@@ -63,6 +69,8 @@ void store_solution(const SimplexState& s, ProblemSlot& slot, bool phase_one_dua
 
 // Scale factors of the working matrix (scaling.cpp).
 void compute_scales(SimplexState& s, const SimplexSettings& settings);
+// New scales of the rows in row_changed against the kept column scales.
+void scale_changed_rows(SimplexState& s);
 
 // Starting bases (crash.cpp).
 void slack_basis(SimplexState& s);
