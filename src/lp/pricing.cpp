@@ -94,6 +94,21 @@ void reset_dual_weights(SimplexState& s) {
   s.dual_weights_valid = true;
 }
 
+void keep_dual_weights_by_variable(SimplexState& s) {
+  std::fill(s.variable_weight.begin(), s.variable_weight.begin() + s.n + s.m, 0.0);
+  if (!s.dual_weights_valid) return;
+  for (int p = 0; p < s.m; ++p) s.variable_weight[s.head[p]] = s.dual_weight[p];
+}
+
+void take_kept_dual_weights(SimplexState& s) {
+  for (int p = 0; p < s.m; ++p) {
+    const int j = s.head[p];
+    const double w = s.variable_weight[j];
+    s.dual_weight[p] = w > 0.0 && !(j >= s.n && s.row_changed[j - s.n]) ? w : 1.0;
+  }
+  s.dual_weights_valid = true;
+}
+
 // The basic variable with the largest infeasibility^2 / ||e_r^T B^-1||^2. The screen against the
 // tolerance is one comparison per row: few rows are infeasible.
 int choose_leaving(SimplexState& s) {

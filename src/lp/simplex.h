@@ -164,6 +164,7 @@ struct SimplexState {
   // Pricing weights: primal Devex over variables, dual steepest edge over basis positions.
   std::vector<double> primal_weight;  // [n + m]
   std::vector<double> dual_weight;    // [m]
+  std::vector<double> variable_weight;  // [n + m] dual weights by basic variable across a reload
   bool dual_weights_valid = false;
   int partial_start = 0;
   int entering_direction = 1;   // +1 up, -1 down, set by the primal pricing

@@ -209,14 +209,15 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   s.factor_tol = settings.lu.factor_tol;
   s.objadd = slot.objadd;
   const bool matrix_kept = slot_matrix_unchanged(s, slot, settings.scale_option);
+  ScaleReuse reuse = ScaleReuse::none;
   if (!matrix_kept) {
     const bool same_shape = s.matrix_valid && s.source_m == slot.m && s.source_n == slot.n &&
                             s.source_scale_option == settings.scale_option;
-    ScaleReuse reuse = ScaleReuse::none;
     if (same_shape && mode.kind == StartKind::hot && mode.keep_scales) {
       reuse = ScaleReuse::all;
     } else if (slot.rescale_changed_rows_only && mark_changed_rows(s, slot, settings.scale_option)) {
       reuse = ScaleReuse::unchanged_rows;
+      keep_dual_weights_by_variable(s);
     }
     load_working_matrix(s, slot, settings, reuse);
     s.counters.reused_scales = reuse == ScaleReuse::all;
@@ -228,6 +229,7 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   if (!s.counters.reused_factors) {
     s.factors_valid = false;
     s.dual_weights_valid = false;
+    if (reuse == ScaleReuse::unchanged_rows && mode.kind != StartKind::cold) take_kept_dual_weights(s);
   }
   s.quadratic = slot.nnobj > 0;
   s.duals_current = s.duals_current && matrix_kept && s.counters.reused_factors && !costs_changed && !s.quadratic;
@@ -285,6 +287,7 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.flipped.assign(nt, 0);
   s.row_mark.assign(mmax, 0);
   s.row_changed.assign(mmax, 0);
+  s.variable_weight.assign(nt, 0.0);
   s.source_row_sum.assign(mmax, 0.0);
   s.slot_row_sum.assign(mmax, 0.0);
   s.superbasic.assign(nt, 0);

@@ -138,6 +138,11 @@ void reset_primal_weights(SimplexState& s);
 int choose_entering(SimplexState& s, const SimplexSettings& settings);
 void update_primal_weights(SimplexState& s, int q, int r, double pivot);
 void reset_dual_weights(SimplexState& s);
+// Dual weights across a reload of the matrix that changed some rows only: kept by basic
+// variable before it, and given back after the basis is built, with weight 1 for the logicals
+// of changed rows and for variables that were not basic.
+void keep_dual_weights_by_variable(SimplexState& s);
+void take_kept_dual_weights(SimplexState& s);
 int choose_leaving(SimplexState& s);
 void update_dual_weights(SimplexState& s, int r, double pivot);
 
