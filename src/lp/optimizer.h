@@ -73,10 +73,12 @@ void hold_problem(HeldProblem& held, const ProblemSlot& from);
 // held problem), writing no message: report_solve_status writes the one solve_problem writes. Of
 // the optimizer it reads only the names, the workspace size and the regularization, so distinct
 // slots with their own states and options may be solved at the same time from different threads
-// while the print and summary files are closed.
+// while the print and summary files are closed. `copy` says how much of the solution goes to duals
+// and primal: all of it, or the row duals alone (the rest of both vectors is then left as it was).
+enum class SolutionCopy { full, row_duals };
 int solve_quietly(ProblemSlot& slot, SimplexState& solver, Options& options, const Optimizer& opt,
-                  Units& units, int start, double& objective, std::vector<double>& duals,
-                  std::vector<double>& primal);
+                  Units& units, int start, SolutionCopy copy, double& objective,
+                  std::vector<double>& duals, std::vector<double>& primal);
 // The line solve_problem writes to out_unit for a status other than 0.
 void report_solve_status(Units& units, int out_unit, int inform);
 // The quadratic regularization term and its gradient; x and g are 1-based (x[1..n]); column n,

@@ -50,8 +50,10 @@ int solve_outcome(const Context& ctx, const Evaluation& ev, Chain& chain, const 
     start = kColdStart;
     chain.startflag = 1;
   }
-  const int inform = lp::solve_quietly(lp.slot, lp.solver, lp.options, ctx.optimizer,
-                                       ctx.units, start, work.z, work.duals, work.primal);
+  // The cut needs the row duals; the rest of the solution only when it is collected.
+  const lp::SolutionCopy copy = ev.collect == 1 ? lp::SolutionCopy::full : lp::SolutionCopy::row_duals;
+  const int inform = lp::solve_quietly(lp.slot, lp.solver, lp.options, ctx.optimizer, ctx.units,
+                                       start, copy, work.z, work.duals, work.primal);
   ++chain.solves;
   chain.pivots += lp.solver.counters.iterations;
   return inform;
