@@ -100,13 +100,32 @@ void keep_dual_weights_by_variable(SimplexState& s) {
   for (int p = 0; p < s.m; ++p) s.variable_weight[s.head[p]] = s.dual_weight[p];
 }
 
+bool logical_of_changed_row(const SimplexState& s, int j) { return j >= s.n && s.row_changed[j - s.n]; }
+
 void take_kept_dual_weights(SimplexState& s) {
   for (int p = 0; p < s.m; ++p) {
     const int j = s.head[p];
     const double w = s.variable_weight[j];
-    s.dual_weight[p] = w > 0.0 && !(j >= s.n && s.row_changed[j - s.n]) ? w : 1.0;
+    s.dual_weight[p] = w > 0.0 && !logical_of_changed_row(s, j) ? w : 1.0;
   }
   s.dual_weights_valid = true;
+  s.changed_row_weights_due = true;
+}
+
+// Exact weights ||e_p^T B^-1||^2 for the logicals of changed rows: a new cut row's logical is
+// basic and violated, so these rows are the first to leave, and a weight of 1 misjudges them.
+void weigh_changed_rows(SimplexState& s) {
+  s.changed_row_weights_due = false;
+  if (!s.dual_weights_valid) return;
+  for (int p = 0; p < s.m; ++p) {
+    if (!logical_of_changed_row(s, s.head[p])) continue;
+    load_unit_row(s, p);
+    lu_btran(s.lu, s.rho);
+    double w = 0.0;
+    for (int t = 0; t < s.rho.count; ++t) w += s.rho.value[s.rho.index[t]] * s.rho.value[s.rho.index[t]];
+    s.dual_weight[p] = std::max(w, kWeightFloor);
+  }
+  sparse_clear(s.rho);
 }
 
 // The basic variable with the largest infeasibility^2 / ||e_r^T B^-1||^2. The screen against the

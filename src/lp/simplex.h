@@ -166,6 +166,7 @@ struct SimplexState {
   std::vector<double> dual_weight;    // [m]
   std::vector<double> variable_weight;  // [n + m] dual weights by basic variable across a reload
   bool dual_weights_valid = false;
+  bool changed_row_weights_due = false;  // the weights of changed rows' logicals are placeholders
   int partial_start = 0;
   int entering_direction = 1;   // +1 up, -1 down, set by the primal pricing
   std::vector<int> rejected;    // [n + m] not a candidate to enter before this iteration count

@@ -83,6 +83,7 @@ int solve_working_problem(SimplexState& s, const SimplexSettings& settings, Unit
     const int code = factorize_basis(s, settings, units);
     if (code != kExitOptimal) return code;
   }
+  if (s.changed_row_weights_due) weigh_changed_rows(s);
   int code = kExitOptimal;
   // True while x_B, y and d are those of the phase 2 objective at the current basis and costs;
   // then the final values need not be computed again.
@@ -206,6 +207,7 @@ int solve_slot(SimplexState& s, ProblemSlot& slot, const SimplexSettings& settin
   s.log_header_written = false;
   s.partial_start = 0;
   s.stall_count = 0;
+  s.changed_row_weights_due = false;
   s.factor_tol = settings.lu.factor_tol;
   s.objadd = slot.objadd;
   const bool matrix_kept = slot_matrix_unchanged(s, slot, settings.scale_option);

@@ -139,10 +139,11 @@ int choose_entering(SimplexState& s, const SimplexSettings& settings);
 void update_primal_weights(SimplexState& s, int q, int r, double pivot);
 void reset_dual_weights(SimplexState& s);
 // Dual weights across a reload of the matrix that changed some rows only: kept by basic
-// variable before it, and given back after the basis is built, with weight 1 for the logicals
-// of changed rows and for variables that were not basic.
+// variable before it and given back after the basis is built (1 for variables that were not
+// basic); the logicals of changed rows are weighed exactly once the basis is factorized.
 void keep_dual_weights_by_variable(SimplexState& s);
 void take_kept_dual_weights(SimplexState& s);
+void weigh_changed_rows(SimplexState& s);
 int choose_leaving(SimplexState& s);
 void update_dual_weights(SimplexState& s, int r, double pivot);
 
