@@ -98,6 +98,7 @@ struct RestartCase {
   Change change;
   const char* start;
   bool factors_reused;  // expected when the previous solve was optimal
+  bool rescale_changed_rows_only = false;
 };
 
 // Moves one piece of the LP at random.
@@ -133,8 +134,10 @@ TEST_P(SimplexRestart, ResolveAgreesWithColdSolve) {
     DenseLp lp = random_lp(rng, t % 2);
     Harness h;
     load_slot(lp, h.slot);
+    h.slot.rescale_changed_rows_only = rc.rescale_changed_rows_only;
     const int first = h.solve("cold");
     for (int round = 0; round < 3; ++round) {
+      const DenseLp before = lp;
       change_lp(lp, rc.change, rng);
       if (rc.change == Change::rhs || rc.change == Change::bounds) load_limits(lp, h.slot);
       else load_slot(lp, h.slot);
@@ -144,6 +147,8 @@ TEST_P(SimplexRestart, ResolveAgreesWithColdSolve) {
       const int cold_inform = cold.solve("cold");
       const std::string label = std::string(rc.name) + " #" + std::to_string(t) + "." + std::to_string(round);
       ASSERT_EQ(inform, cold_inform) << label;
+      for (int i = 0; rc.rescale_changed_rows_only && i < lp.m; ++i)
+        EXPECT_EQ(h.state.row_changed[i] != 0, lp.a[i] != before.a[i]) << label << " row " << i;
       if (inform == 0) {
         EXPECT_NEAR(h.slot.obj, cold.slot.obj, 1e-7 * (1.0 + std::fabs(cold.slot.obj))) << label;
         const KktError e = kkt_error(h.slot);
@@ -170,7 +175,8 @@ INSTANTIATE_TEST_SUITE_P(Changes, SimplexRestart,
                                            RestartCase{"costs_warm", Change::costs, "Warm", true},
                                            RestartCase{"costs_hot_scales_only", Change::costs, "hot  s", false},
                                            RestartCase{"matrix_warm", Change::matrix, "warm", false},
-                                           RestartCase{"matrix_hot", Change::matrix, "HOT", false}),
+                                           RestartCase{"matrix_hot", Change::matrix, "HOT", false},
+                                           RestartCase{"matrix_warm_rows_rescaled", Change::matrix, "warm", false, true}),
                          [](const auto& info) { return std::string(info.param.name); });
 
 // An infeasible solve returns pi = d sinf / d r: a subgradient of the (convex) least sum of
