@@ -10,7 +10,7 @@ namespace tarvo::benders {
 int solve_master(const sampling::Context& ctx, SolveState& state, int start, double& objective) {
   lp::Optimizer& opt = ctx.optimizer;
   lp::select_problem(opt, lp::kMasterSlot);
-  // Between solves only cut rows are rewritten: the optimizer rescales just those.
+  // Between solves only cut rows are rewritten: the optimizer rescales and reweighs just those.
   opt.slot[lp::kMasterSlot].rescale_changed_rows_only = true;
   clock_interval(ctx.clock, nullptr);
   int inform = 0;

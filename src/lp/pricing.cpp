@@ -112,8 +112,9 @@ void take_kept_dual_weights(SimplexState& s) {
   s.changed_row_weights_due = true;
 }
 
-// Exact weights ||e_p^T B^-1||^2 for the logicals of changed rows: a new cut row's logical is
-// basic and violated, so these rows are the first to leave, and a weight of 1 misjudges them.
+// Exact weights ||e_p^T B^-1||^2 for the logicals of changed rows: a rewritten row is often
+// violated at the old solution, so these rows are among the first to leave, and a weight of 1
+// misjudges them.
 void weigh_changed_rows(SimplexState& s) {
   s.changed_row_weights_due = false;
   if (!s.dual_weights_valid) return;

@@ -99,7 +99,7 @@ bool mark_changed_rows(SimplexState& s, const ProblemSlot& slot, int scale_optio
     const int slot_count = slot.ka[j + 2] - slot.ka[j + 1];
     if (source_count == slot_count &&
         std::memcmp(&s.source_ha[source_first], &slot.ha[slot_first], sizeof(int) * slot_count) == 0) {
-      // Same rows in the same order (a cut row rewritten in place): the rows of differing values
+      // Same rows in the same order (values rewritten in place): the rows of differing values
       // change, which marks a row whose repeated entries keep their sum too, harmlessly.
       mark_differing_values(s, &slot.ha[slot_first], &s.source_a[source_first], &slot.a[slot_first],
                             slot_count, slot.m);

@@ -84,8 +84,8 @@ struct ProblemSlot {
   bool loaded = false;
   Name8 problem_name;
   // For a caller that rewrites some rows between solves and keeps the rest (cut rows): a matrix
-  // changed that way keeps its column scales and the scales of the untouched rows, and only the
-  // rewritten rows are scaled anew, instead of every scale being computed again.
+  // changed that way keeps its column scales, the scales of the untouched rows and the pricing
+  // weights of the basis; only the rewritten rows are scaled and weighed anew.
   bool rescale_changed_rows_only = false;
 
   std::vector<double> a;   // [1..ne] values, column by column
