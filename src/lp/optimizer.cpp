@@ -60,7 +60,8 @@ bool capacities_fit_memory(const Options& o, Units& units, int err_unit) {
   return false;
 }
 
-// Every slot and its simplex state are sized here once for the whole run.
+// Every slot is sized here once for the whole run. Its simplex state is sized by its first solve,
+// for that problem: states at the capacities would zero-fill memory no problem uses.
 void allocate_slots(Optimizer& opt) {
   const Options& o = opt.options;
   opt.mmax = o.ival[kRowLimit];
@@ -71,7 +72,6 @@ void allocate_slots(Optimizer& opt) {
   opt.options.ival[kWorkspaceTotal] = opt.nwcore;
   for (int k = kMasterSlot; k <= kCoreSlot; ++k) {
     allocate_slot(opt.slot[k], opt.mmax, opt.nmax, opt.nemax);
-    allocate_simplex_state(opt.solver[k], opt.mmax, opt.nmax, opt.nemax);
   }
 }
 
