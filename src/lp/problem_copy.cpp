@@ -139,8 +139,6 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
   const std::size_t entries = static_cast<std::size_t>(std::max(slot.ne, 0));
   for (auto* v : {&s.row_index, &s.col_index, &s.source_ha})
     if (v->size() < entries) v->resize(entries);
-  // The objective row's entries grow as they are met: sized by all entries, they would touch
-  // memory for nothing.
   for (auto* v : {&s.value, &s.row_value, &s.source_a})
     if (v->size() < entries) v->resize(entries);
   // Entries repeated within a column add up (the factorization takes each row once).
@@ -153,6 +151,8 @@ void load_working_matrix(SimplexState& s, const ProblemSlot& slot, const Simplex
     for (int k = slot.ka[j + 1]; k < slot.ka[j + 2]; ++k) {
       const int i = slot.ha[k];
       if (i == iobj && iobj > 0) {
+        // The objective row's entry lists grow as entries are met: sized by all entries, they
+        // would touch memory no objective uses.
         if (static_cast<std::size_t>(s.objective_count) == s.objective_col.size()) {
           const std::size_t room = 2 * s.objective_col.size() + 16;
           s.objective_col.resize(room);
