@@ -87,21 +87,21 @@ bool size_slots(Optimizer& opt, Units& units, int out_unit, int err_unit,
   return true;
 }
 
+// Only pi: a subproblem whose solution is not collected needs its row duals for the cut, and
+// copying the rest of every solution costs a few percent of a large evaluation.
+void copy_row_duals(const ProblemSlot& s, std::vector<double>& duals) {
+  if (duals.size() < static_cast<std::size_t>(s.m) + 1) duals.resize(static_cast<std::size_t>(s.m) + 1);
+  std::copy_n(s.pi.begin() + 1, s.m, duals.begin() + 1);
+}
+
 void copy_solution(const ProblemSlot& s, std::vector<double>& duals,
                    std::vector<double>& primal) {
   const std::size_t nb = static_cast<std::size_t>(s.n) + s.m;
   if (primal.size() < nb + 1) primal.resize(nb + 1);
   if (duals.size() < nb + 1) duals.resize(nb + 1);
   std::copy_n(s.xn.begin() + 1, nb, primal.begin() + 1);
-  std::copy_n(s.pi.begin() + 1, s.m, duals.begin() + 1);
+  copy_row_duals(s, duals);
   std::copy_n(s.rc.begin() + 1, s.n, duals.begin() + 1 + s.m);
-}
-
-// Only pi: a subproblem whose solution is not collected needs its row duals for the cut, and
-// copying the rest of every solution costs a few percent of a large evaluation.
-void copy_row_duals(const ProblemSlot& s, std::vector<double>& duals) {
-  if (duals.size() < static_cast<std::size_t>(s.m) + 1) duals.resize(static_cast<std::size_t>(s.m) + 1);
-  std::copy_n(s.pi.begin() + 1, s.m, duals.begin() + 1);
 }
 
 // The optimizer's start word for start 0, 1 or any other value.

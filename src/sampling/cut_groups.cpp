@@ -17,9 +17,7 @@ int group_of(const Evaluation& ev, int k) {
   return static_cast<int>(at - ev.groups.end.begin());
 }
 
-double* group_gradient(Evaluation& ev, int g) {
-  return ev.groups.gus.data() + static_cast<std::size_t>(g - 1) * ev.n1;
-}
+double* group_gradient(Evaluation& ev, int g) { return ev.groups.gus.data() + group_offset(ev, g); }
 
 }  // namespace
 

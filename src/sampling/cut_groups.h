@@ -4,6 +4,8 @@
 // the presample, 8 and 9) can split their cut into one cut per group of consecutive table rows.
 // Each group's cut bounds the group's share of the expected cost, sum over its points of
 // w_k z_k; the group cuts of one evaluation add up to its single cut.
+#include <cstddef>
+
 #include "common/run_params.h"
 #include "input/model.h"
 #include "sampling/evaluation.h"
@@ -33,9 +35,15 @@ void add_to_group(Evaluation& ev, int k, double w, double z, const double* u);
 void add_group_variance(Evaluation& ev, int k, double share);
 void close_groups(const Context& ctx, Evaluation& ev);
 
-// Gradient of group g's cut, gus[1..n1] (1-based like every first-stage array).
+// Where group g's gradient starts in groups.gus, so that gus[1..n1] index it 1-based like every
+// first-stage array.
+inline std::size_t group_offset(const Evaluation& ev, int g) {
+  return static_cast<std::size_t>(g - 1) * ev.n1;
+}
+
+// Gradient of group g's cut, gus[1..n1].
 inline const double* group_gus(const Evaluation& ev, int g) {
-  return ev.groups.gus.data() + static_cast<std::size_t>(g - 1) * ev.n1;
+  return ev.groups.gus.data() + group_offset(ev, g);
 }
 
 }  // namespace tarvo::sampling

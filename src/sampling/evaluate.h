@@ -23,8 +23,7 @@ int evaluate(const Context& ctx, Evaluation& ev, int istrat);
 
 // Re-evaluates the proposal in place (the loop first restores the best one with snapshot 4) with
 // a fresh sample, every solve warm, the solution collected into ev.acc_primal/acc_duals; sets the
-// best total to objs + c'x-hat and the best variance to the new
-// variance.
+// best total to objs + c'x-hat and the best variance to the new variance.
 int reevaluate(const Context& ctx, Evaluation& ev, int istrat);
 
 // Copies between the approximation and proposal snapshots:

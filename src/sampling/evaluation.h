@@ -69,8 +69,8 @@ struct SolveWork {
   std::vector<double> b_work;      // [1..B nonzeros] coupling values of the outcome
   std::vector<double> rhs_work;    // [1..m2] right-hand sides of the outcome
   std::vector<double> coupled;     // [1..m2] C x-hat, then the full right-hand side r
-  std::vector<double> primal;      // [1..n2+m2] last solve: columns, then row activities
-  std::vector<double> duals;       // [1..m2+n2] last solve: row duals, then reduced costs
+  std::vector<double> primal;      // [1..n2+m2] last collected solve: columns, then row activities
+  std::vector<double> duals;       // [1..m2+n2] last solve: row duals; reduced costs when collected
   std::vector<double> u;           // [1..n1] C' pi of the last solve
   double z = 0.0;  // objective of the last solve (sum of infeasibilities if infeasible)
 };
