@@ -205,7 +205,8 @@ void hold_problem(HeldProblem& held, const ProblemSlot& from) {
   std::copy_n(from.hs.begin(), nb + 1, to.hs.begin());
   std::copy_n(from.names.begin(), nb + 1, to.names.begin());
   std::copy_n(from.row_type.begin(), from.m + 1, to.row_type.begin());
-  allocate_simplex_state(held.solver, from.m, from.n, from.ne);
+  // The simplex state is sized by its first solve, on whichever thread makes it.
+  held.solver = SimplexState{};
 }
 
 int solve_quietly(ProblemSlot& slot, SimplexState& solver, Options& options, const Optimizer& opt,

@@ -67,7 +67,7 @@ int solve_problem(Optimizer& opt, Units& units, int out_unit, int& inform, int s
                   double& objective, double& spare1, std::vector<double>& duals, double& spare2,
                   std::vector<double>& primal);
 // Sizes `held` for exactly the problem in `from` and copies that problem (matrix, bounds, basis,
-// values, names) into it.
+// values, names) into it. Its simplex state starts empty and is sized by its first solve.
 void hold_problem(HeldProblem& held, const ProblemSlot& from);
 // solve_problem for a given slot, simplex state and options (one of the optimizer's slots or a
 // held problem), writing no message: report_solve_status writes the one solve_problem writes. Of

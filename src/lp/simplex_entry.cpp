@@ -345,10 +345,12 @@ SimplexSettings settings_from_options(const Options& o) {
 int optimizer_solve(SimplexState& state, Options& options, Units& units, ProblemSlot& slot, std::string_view start,
                     const std::array<Name8, 5>& names, int nwcore, const Regularization& regularization) {
   // A state is sized for the first problem it solves; a larger one gets a fresh state (its first
-  // solve then starts from the slot's basis, as after any change of the matrix).
+  // solve then starts from the slot's basis, as after any change of the matrix). Entry arrays are
+  // reserved up to the slot's capacity, which costs no memory until used, so that a matrix that
+  // fills up (cut rows) is not copied to ever larger arrays.
   if (state.mmax < slot.m || state.nmax < slot.n) {
     state = SimplexState{};
-    allocate_simplex_state(state, slot.m, slot.n, slot.ne);
+    allocate_simplex_state(state, slot.m, slot.n, std::max(slot.ne, slot.nemax));
   }
   state.slot_m = slot.m;
   state.slot_n = slot.n;
