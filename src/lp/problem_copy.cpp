@@ -229,6 +229,16 @@ bool load_listed_costs(SimplexState& s, const ProblemSlot& slot) {
   return costs_changed;
 }
 
+// The working column bounds are those a load would give: the slot's column bounds are bit for
+// bit those last loaded, with the same scales, and no solve left them perturbed (the working
+// bounds are then the base ones).
+bool column_bounds_kept(const SimplexState& s, const ProblemSlot& slot, bool matrix_kept) {
+  const std::size_t bytes = sizeof(double) * s.n;
+  return matrix_kept && !s.bounds_perturbed &&
+         std::memcmp(slot.bl.data() + 1, s.source_bl.data(), bytes) == 0 &&
+         std::memcmp(slot.bu.data() + 1, s.source_bu.data(), bytes) == 0;
+}
+
 }  // namespace
 
 bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const SimplexSettings& settings,
@@ -240,7 +250,11 @@ bool load_costs_and_bounds(SimplexState& s, const ProblemSlot& slot, const Simpl
     s.lower[j] = s.base_lower[j] = working_lower(slot.bl[k], s.inverse_scale[j]);
     s.upper[j] = s.base_upper[j] = working_upper(slot.bu[k], s.inverse_scale[j]);
   };
-  for (int j = 0; j < s.n; ++j) load_bounds(j, j + 1);
+  if (!column_bounds_kept(s, slot, matrix_kept)) {
+    for (int j = 0; j < s.n; ++j) load_bounds(j, j + 1);
+    std::copy_n(slot.bl.begin() + 1, s.n, s.source_bl.begin());
+    std::copy_n(slot.bu.begin() + 1, s.n, s.source_bu.begin());
+  }
   for (int i = 0; i < s.m; ++i) load_bounds(s.n + i, slot.n + s.slot_row[i]);
   s.costs_shifted = false;
   s.bounds_perturbed = false;

@@ -122,6 +122,10 @@ struct SimplexState {
   std::vector<int> source_ha;
   std::vector<double> source_a;
   bool matrix_valid = false;
+  // The slot's column bounds at the last load ([n] each), valid with the matrix: re-solves that
+  // change only row limits (outcomes of a right-hand side) then skip the columns' load.
+  std::vector<double> source_bl;
+  std::vector<double> source_bu;
   // Rows whose entries differ between the source and the slot, and each row's entries summed
   // as the load sums them (kept at zero between uses), for a reload that rescales those rows only.
   std::vector<char> row_changed;       // [m]

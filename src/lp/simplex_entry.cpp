@@ -275,6 +275,8 @@ void allocate_simplex_state(SimplexState& s, int mmax, int nmax, int nemax) {
   s.implied_row.assign(mmax, 0.0);
   s.col_floor_work.assign(nmax, 0.0);
   s.source_ka.assign(nmax + 1, 0);
+  s.source_bl.assign(nmax, 0.0);
+  s.source_bu.assign(nmax, 0.0);
   s.head.assign(mmax, 0);
   s.saved_head.assign(mmax, 0);
   s.position.assign(nt, -1);
