@@ -38,10 +38,10 @@ void write_bogus_kind(const Context& ctx, int kind);
 
 // subsetup, then one solve of the chain's subproblem: cold when the chain's startflag is 0 (which
 // then becomes 1), warm otherwise, never hot. Returns the optimizer's status (0 optimal, 1
-// infeasible, others failures) or kBadKind, leaves work.z and work.duals (all of work.primal and
-// work.duals only while the solution is collected, ev.collect 1, or after a failed solve; the
-// row duals work.duals[1..m2] always), and counts the solve and its pivots on the chain. Writes nothing but the traces of ibug 6 and above (they
-// keep a pass on the calling thread): the caller reports the status.
+// infeasible, others failures) or kBadKind, and counts the solve and its pivots on the chain. It
+// leaves work.z and the row duals work.duals[1..m2]; the rest of work.duals and work.primal only
+// while the solution is collected (ev.collect 1). Writes nothing but the traces of ibug 6 and
+// above (they keep a pass on the calling thread): the caller reports the status.
 int solve_outcome(const Context& ctx, const Evaluation& ev, Chain& chain, const ChainLp& lp);
 
 // Sample point k on a chain: the outcomes of row k of the sample table become the chain's current
